@@ -1,0 +1,31 @@
+# Warnings, sanitizers, the compiler cache and the linker: what every target shares.
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # Precompiled headers only hit the cache when their defines and time stamps are not compared.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      ${CCACHE})
+endif()
+
+find_program(MOLD mold)
+if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_link_options(-fuse-ld=mold)
+endif()
+
+if(NOT MSVC)
+  add_compile_options(-Wall -Wextra -Werror)
+  if(CCACHE)
+    add_compile_options(-fpch-preprocess)
+  endif()
+endif()
+
+if(VELCRO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,35 @@
+# The kinds of target in the house. Sources are globbed by folder: a new file needs no list entry,
+# only a new configure, which ninja does by itself (CONFIGURE_DEPENDS).
+
+function(velcro_sources out)
+  set(found)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB_RECURSE files CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    list(APPEND found ${files})
+  endforeach()
+  # A file that calls one operating system has a twin for the other: Name_windows.cpp, Name_linux.cpp.
+  if(WIN32)
+    list(FILTER found EXCLUDE REGEX "_linux\\.cpp$")
+  else()
+    list(FILTER found EXCLUDE REGEX "_windows\\.cpp$")
+  endif()
+  set(${out} ${found} PARENT_SCOPE)
+endfunction()
+
+# velcro_test(name LIBRARIES ... SOURCES ...): one program; each source file XxxTest.cpp holds the
+# suite XxxTest (any number of tests) and becomes one test of ctest.
+function(velcro_test name)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES;SOURCES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  foreach(source IN LISTS ARG_SOURCES)
+    get_filename_component(suite ${source} NAME_WE)
+    if(suite MATCHES "Test$")
+      add_test(NAME ${name}.${suite}
+               COMMAND ${name} --gtest_brief=1 --gtest_filter=${suite}.*:*/${suite}.*)
+      set_tests_properties(${name}.${suite} PROPERTIES ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+    endif()
+  endforeach()
+endfunction()

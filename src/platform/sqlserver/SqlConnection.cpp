@@ -1,0 +1,12 @@
+#include "platform/sqlserver/SqlConnection.h"
+
+#include "platform/sqlserver/embedded/EmbeddedConnection.h"
+#include "platform/sqlserver/odbc/OdbcConnection.h"
+
+namespace velcro::sql {
+
+std::unique_ptr<SqlConnection> createConnection(std::string_view server) {
+    return server.starts_with(embeddedPrefix) ? createEmbeddedConnection() : createOdbcConnection();
+}
+
+} // namespace velcro::sql

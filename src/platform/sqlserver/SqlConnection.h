@@ -1,0 +1,96 @@
+// The seam to a SQL Server database. Two ends answer it: the real server through ODBC, and the
+// embedded stand-in. Text is UTF-8 T-SQL, sent as it is written.
+#pragma once
+
+#include "platform/sqlserver/RowSet.h"
+#include "platform/sqlserver/SqlError.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace velcro::sql {
+
+/// Where to connect. server is "embedded:<folder>" for the stand-in, else host, host,port or
+/// host\instance.
+struct ConnectionSettings
+{
+    std::string server;
+    std::string database;
+    std::string user;
+    std::string password;
+    int connectTimeoutSeconds = 0; // 0 waits as long as the driver does
+    bool readOnlyIntent = false;
+};
+
+struct Blob
+{
+    std::string bytes;
+};
+
+/// A value bound to a :Name in the text. Text goes as nvarchar(max), Blob as varbinary(max).
+struct Parameter
+{
+    std::string name; // without the colon; case does not count
+    std::variant<std::monostate, std::int64_t, double, std::string, Blob> value;
+};
+
+/// What one statement of a batch gave: rows, or how many rows it touched (-1 where the server does
+/// not say, such as for DDL).
+struct StatementResult
+{
+    std::optional<RowSet> rows;
+    std::int64_t affected = -1;
+};
+
+/// One connection, used by one thread. Every operation throws SqlError. A connection that was lost
+/// stays unusable until connect() is called again.
+class SqlConnection
+{
+public:
+    using OnResult = std::function<void(StatementResult&&)>;
+
+    virtual ~SqlConnection() = default;
+
+    /// Drops an open connection first.
+    virtual void connect(const ConnectionSettings& settings) = 0;
+    /// Rolls an open transaction back; does nothing when not connected.
+    virtual void disconnect() noexcept = 0;
+    virtual bool isConnected() const = 0;
+
+    /// Runs a batch to its end and hands over the result of each statement in order. The first
+    /// failed statement ends the batch on the embedded end; a real server may go on, and what it
+    /// says of later statements is drained before the first error is thrown.
+    virtual void run(std::string_view batch, std::span<const Parameter> parameters,
+                     const OnResult& onResult) = 0;
+
+    virtual void begin() = 0;
+    virtual void commit() = 0;
+    virtual void rollback() = 0;
+
+    /// Runs a batch whose results nobody needs.
+    void execute(std::string_view batch, std::span<const Parameter> parameters = {}) {
+        run(batch, parameters, [](StatementResult&&) {});
+    }
+    /// The rows of the first statement of the batch that gives rows; no rows and no columns if none
+    /// does.
+    RowSet query(std::string_view statement, std::span<const Parameter> parameters = {}) {
+        std::optional<RowSet> rows;
+        run(statement, parameters, [&rows](StatementResult&& result) {
+            if (result.rows && !rows) {
+                rows = std::move(result.rows);
+            }
+        });
+        return rows.value_or(RowSet());
+    }
+};
+
+/// The end that a server value names: "embedded:<folder>" the stand-in, anything else ODBC.
+std::unique_ptr<SqlConnection> createConnection(std::string_view server);
+
+} // namespace velcro::sql
