@@ -26,6 +26,8 @@ struct ConnectionSettings
     std::string password;
     int connectTimeoutSeconds = 0; // 0 waits as long as the driver does
     bool readOnlyIntent = false;
+    bool autoCommit = true;      // false: what run() writes outside begin() waits for commit()
+    bool createDatabase = false; // the stand-in may make the database, if its folder is there
 };
 
 struct Blob
@@ -69,7 +71,11 @@ public:
     virtual void run(std::string_view batch, std::span<const Parameter> parameters,
                      const OnResult& onResult) = 0;
 
+    /// With autoCommit off the transaction begins with whatever waits, and ends with it.
     virtual void begin() = 0;
+    /// Also makes durable what waits where autoCommit is off; nothing waiting is no error there. The
+    /// embedded end holds the database's write lock while something waits, so a seat commits before
+    /// it goes back to its user.
     virtual void commit() = 0;
     virtual void rollback() = 0;
 
