@@ -1,0 +1,23 @@
+// The one gate that every modal form and message box passes, so that a scripted user can stand
+// behind it and answer.
+#pragma once
+
+#include <QDialog>
+#include <QMessageBox>
+
+#include <functional>
+
+namespace velcro::ui {
+
+/// Shows the form modally and returns its result code. The caller owns the form.
+int runModal(QDialog& dialog);
+
+/// A message box with the single button OK.
+void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                    const QString& text);
+
+/// Called with each modal form once it is on screen, from its own event loop; an empty one ends it.
+using ModalWatcher = std::function<void(QDialog&)>;
+void setModalWatcher(ModalWatcher watcher);
+
+} // namespace velcro::ui
