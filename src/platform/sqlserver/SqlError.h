@@ -21,6 +21,7 @@ struct SqlMessage
     int state = 1;
     int line = 0; // line of the batch, 1 upward; 0 where the driver does not tell
     std::string text;
+    int column = 0; // byte of that line, 1 upward; 0 where nobody tells
 };
 
 /// Thrown by every operation of the seam. what() is the server's text alone, without the driver's
