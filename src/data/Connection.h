@@ -12,6 +12,8 @@
 
 #include <functional>
 #include <memory>
+#include <span>
+#include <vector>
 
 class Statement;
 
@@ -33,7 +35,7 @@ struct ConnectionOptions
     bool keepDesignConnected = false;    // no designer
     bool enableBCD = false;              // decimals are read as floats or text
     WhenLost whenLost = WhenLost::Raise; // *
-    QStringList specificOptions;         // "Name=Value"; * ApplicationIntent, ForceCreateDatabase
+    QStringList specificOptions = {};    // "Name=Value"; * ApplicationIntent, ForceCreateDatabase
 };
 
 /// Server, database, user and password as one text; nothing is escaped, so a ";" in a value breaks
@@ -70,9 +72,10 @@ public:
     /// Makes durable what was run outside a transaction on a connection without auto-commit.
     void settle();
 
-    /// Runs a batch by the lost-connection rule of this connection. Throws SqlError.
-    void run(const QString& batch, std::span<const velcro::sql::Parameter> parameters,
-             const velcro::sql::SqlConnection::OnResult& onResult);
+    /// Runs a batch by the lost-connection rule of this connection and gives the result of each of
+    /// its statements. Throws SqlError.
+    std::vector<velcro::sql::StatementResult>
+    run(const QString& batch, std::span<const velcro::sql::Parameter> parameters);
 
     /// Makes the end of the seam; a test may put a faulty one in.
     using Factory =
@@ -84,6 +87,7 @@ private:
     void open();
     void ensureOpen();
     void noteDirectWork();
+    bool runsAgain() const { return lost_ && options_.whenLost == WhenLost::RunAgain; }
     template <class Work>
     void guarded(const Work& work);
 

@@ -76,7 +76,9 @@ public:
 
     Connection& connection() const { return *connection_; }
 
-    /// The standard beginning of a read: closes, asks for the whole result at once, empties SQL.
+    /// Closes, and empties SQL and its parameters.
+    void NewText();
+    /// The standard beginning of a read: a new text, whose result is wanted whole and at once.
     void NewRead();
     /// Runs SQL and stands on the first row. Throws SqlError. Reopens when open.
     void Open();
@@ -119,7 +121,6 @@ public:
 private:
     friend class Connection;
     friend class Field;
-    std::vector<velcro::sql::Parameter> boundParameters() const;
 
     Connection* connection_;
     Use use_;

@@ -1,0 +1,217 @@
+#include "data/Connection.h"
+
+#include "data/Errors.h"
+#include "data/Statement.h"
+#include "platform/sqlserver/embedded/EmbeddedConnection.h"
+
+#include <QTimer>
+
+#include <map>
+
+using velcro::sql::ConnectionSettings;
+using velcro::sql::SqlError;
+using velcro::sql::SqlErrorKind;
+
+QString sfg_BuildUNIConnectionStr(const QString& xServer, const QString& xDBase,
+                                  const QString& xUser, const QString& xPswd, const QString&,
+                                  const QString&) {
+    return QLatin1String("Provider Name=SQL Server;Server=") + xServer + QLatin1String(";") +
+           QLatin1String("Database=") + xDBase + QLatin1String(";") + QLatin1String("User ID=") +
+           xUser + QLatin1String(";") + QLatin1String("Password=") + xPswd + QLatin1String(";") +
+           QLatin1String("Login Prompt=False;") + QLatin1String("Connect Timeout=0;");
+}
+
+ConnectionSettings parseConnectionString(const QString& text) {
+    using Take = std::function<void(ConnectionSettings&, const QString&)>;
+    static const auto ignore = [](ConnectionSettings&, const QString&) {};
+    static const std::map<QString, Take> settings = {
+        {"provider name", ignore},
+        {"server", [](auto& to, const QString& value) { to.server = value.toStdString(); }},
+        {"database", [](auto& to, const QString& value) { to.database = value.toStdString(); }},
+        {"user id", [](auto& to, const QString& value) { to.user = value.toStdString(); }},
+        {"password", [](auto& to, const QString& value) { to.password = value.toStdString(); }},
+        {"login prompt", ignore},
+        {"connect timeout",
+         [](auto& to, const QString& value) { to.connectTimeoutSeconds = StrToInt(value); }},
+    };
+    ConnectionSettings result;
+    for (const QString& part : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const auto equals = part.indexOf(QLatin1Char('='));
+        const auto found = settings.find(part.left(equals).trimmed().toLower());
+        if (equals < 0 || found == settings.end()) {
+            throw VelmaraError(
+                QStringLiteral("The connection string is broken: it has a part that is no setting. "
+                               "Host, database, user and password must not hold a \";\"."));
+        }
+        found->second(result, part.mid(equals + 1));
+    }
+    return result;
+}
+
+Connection::Connection(ConnectionOptions options)
+    : options_(std::move(options)) {}
+
+Connection::~Connection() {
+    Disconnect();
+    for (Statement* statement : std::as_const(statements_)) {
+        statement->connection_ = nullptr;
+    }
+}
+
+void Connection::Connect() {
+    Disconnect();
+    open();
+}
+
+void Connection::open() {
+    ConnectionSettings settings = parseConnectionString(connectString_);
+    settings.autoCommit = options_.autoCommit;
+    settings.readOnlyIntent =
+        options_.specificOptions.contains(QLatin1String("ApplicationIntent=aiReadOnly"));
+    settings.createDatabase =
+        options_.specificOptions.contains(QLatin1String("ForceCreateDatabase=True"));
+    embedded_ = settings.server.starts_with(velcro::sql::embeddedPrefix);
+    link_ = factory(settings.server);
+    try {
+        link_->connect(settings);
+    } catch (...) {
+        link_.reset();
+        throw;
+    }
+    lost_ = false;
+    inTransaction_ = false;
+    directWork_ = false;
+}
+
+void Connection::Disconnect() noexcept {
+    for (Statement* statement : std::as_const(statements_)) {
+        statement->Close();
+    }
+    if (!link_) {
+        return;
+    }
+    if (!inTransaction_) {
+        try {
+            settle();
+        } catch (const std::exception& error) {
+            qWarning("Work that was waiting could not be made durable: %s", error.what());
+        }
+    }
+    link_->disconnect();
+    link_.reset();
+    lost_ = false;
+    inTransaction_ = false;
+}
+
+bool Connection::Connected() const {
+    return link_ && link_->isConnected();
+}
+
+void Connection::ensureOpen() {
+    if (lost_) {
+        open();
+    }
+    if (!link_) {
+        throw SqlError(SqlErrorKind::NotConnected, "08003",
+                       {.number = 0, .text = "The connection is not open."}, {});
+    }
+}
+
+// Runs one piece of work and keeps count of what a loss of the connection takes with it.
+template <class Work>
+void Connection::guarded(const Work& work) {
+    try {
+        work();
+    } catch (const SqlError& error) {
+        if (error.kind() == SqlErrorKind::ConnectionLost) {
+            lost_ = true;
+            directWork_ = false;
+        }
+        throw;
+    }
+}
+
+void Connection::StartTransaction() {
+    ensureOpen();
+    try {
+        guarded([this] { link_->begin(); });
+    } catch (const SqlError&) {
+        if (!runsAgain()) {
+            throw;
+        }
+        open();
+        guarded([this] { link_->begin(); });
+    }
+    inTransaction_ = true;
+    workInTransaction_ = false;
+}
+
+void Connection::Commit() {
+    ensureOpen();
+    guarded([this] { link_->commit(); });
+    inTransaction_ = false;
+    directWork_ = false;
+}
+
+void Connection::Rollback() {
+    inTransaction_ = false;
+    directWork_ = false;
+    if (link_ && !lost_) {
+        guarded([this] { link_->rollback(); });
+    }
+}
+
+void Connection::settle() {
+    if (!directWork_ || !link_ || lost_ || inTransaction_) {
+        return;
+    }
+    directWork_ = false;
+    guarded([this] { link_->commit(); });
+}
+
+// The embedded end holds the database's write lock while work waits for its commit, and other
+// programs of the seat would wait for a user who thinks.
+void Connection::noteDirectWork() {
+    if (options_.autoCommit || inTransaction_) {
+        return;
+    }
+    directWork_ = true;
+    if (!embedded_ || settleScheduled_) {
+        return;
+    }
+    settleScheduled_ = true;
+    QTimer::singleShot(0, this, [this] {
+        settleScheduled_ = false;
+        settle();
+    });
+}
+
+std::vector<velcro::sql::StatementResult>
+Connection::run(const QString& batch, std::span<const velcro::sql::Parameter> parameters) {
+    ensureOpen();
+    noteDirectWork();
+    const std::string text = batch.toStdString();
+    std::vector<velcro::sql::StatementResult> results;
+    const auto send = [&] {
+        results.clear();
+        link_->run(text, parameters, [&results](velcro::sql::StatementResult&& result) {
+            results.push_back(std::move(result));
+        });
+    };
+    try {
+        guarded(send);
+    } catch (const SqlError&) {
+        // What an open transaction did before is gone with the connection: half of it must not run.
+        if (!runsAgain() || (inTransaction_ && workInTransaction_)) {
+            throw;
+        }
+        const bool inTransaction = inTransaction_;
+        open();
+        if (inTransaction) {
+            StartTransaction();
+        }
+        guarded(send);
+    }
+    workInTransaction_ = true;
+    return results;
+}

@@ -1,0 +1,42 @@
+#include "platform/seat/Folders.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace velcro::seat {
+
+namespace {
+QStringList otherRoots;
+}
+
+QStringList programFilesRoots() {
+    return otherRoots.isEmpty() ? system::programFilesRoots() : otherRoots;
+}
+
+void setProgramFilesRoots(const QStringList& roots) {
+    otherRoots = roots;
+}
+
+QString workingFolder(const QString& programFile) {
+    const QFileInfo program(programFile);
+    QString folder = program.absolutePath();
+    if (!QFileInfo(folder).isWritable()) {
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                 QLatin1Char('/') + program.completeBaseName();
+        QDir().mkpath(folder);
+    }
+    return QDir::cleanPath(folder) + QLatin1Char('/');
+}
+
+QString nativePath(const QString& path) {
+    QString native = path;
+#ifdef Q_OS_WIN
+    native.replace(QLatin1Char('/'), QLatin1Char('\\'));
+#else
+    native.replace(QLatin1Char('\\'), QLatin1Char('/'));
+#endif
+    return native;
+}
+
+} // namespace velcro::seat

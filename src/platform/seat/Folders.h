@@ -1,0 +1,29 @@
+// The folders of a seat: where programs keep what they share, and where this one may write.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace velcro::seat {
+
+/// The two folders that programs of the suite share their settings in, in the order in which they
+/// are looked at; the later one wins where both exist. On Windows "C:\Program Files" and
+/// "C:\Program Files (x86)"; elsewhere /opt/velmara and velmara below the user's configuration
+/// folder ($XDG_CONFIG_HOME, else ~/.config).
+QStringList programFilesRoots();
+
+/// The program's own folder where it can be written, else the program's folder among the user's
+/// data ($XDG_DATA_HOME, else ~/.local/share), which is made. Ends in a separator.
+QString workingFolder(const QString& programFile);
+
+/// A path with "\" or "/" between its folders, with the separators of this system.
+QString nativePath(const QString& path);
+
+/// Puts other folders in the place of programFilesRoots(), for tests; empty puts the seat's back.
+void setProgramFilesRoots(const QStringList& roots);
+
+namespace system {
+QStringList programFilesRoots();
+}
+
+} // namespace velcro::seat
