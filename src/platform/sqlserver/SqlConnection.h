@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace velcro::sql {
 
@@ -20,10 +21,10 @@ namespace velcro::sql {
 /// host\instance.
 struct ConnectionSettings
 {
-    std::string server;
-    std::string database;
-    std::string user;
-    std::string password;
+    std::string server = {};
+    std::string database = {};
+    std::string user = {};
+    std::string password = {};
     int connectTimeoutSeconds = 0; // 0 waits as long as the driver does
     bool readOnlyIntent = false;
     bool autoCommit = true;      // false: what run() writes outside begin() waits for commit()
@@ -48,6 +49,9 @@ struct StatementResult
 {
     std::optional<RowSet> rows;
     std::int64_t affected = -1;
+    /// What a real server said beside it: what PRINT prints, warnings, and, in the place of a failed
+    /// statement, its errors. The first error of a batch is thrown as well, at the batch's end.
+    std::vector<SqlMessage> messages;
 };
 
 /// One connection, used by one thread. Every operation throws SqlError. A connection that was lost
