@@ -1,0 +1,93 @@
+#include "ui/DateEdit.h"
+
+#include "ui/Handler.h"
+#include "ui/Modal.h"
+
+#include <QCalendarWidget>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace velcro::ui {
+
+namespace {
+
+QString dateText(const QDate& date) {
+    return date.toString(QStringLiteral("yyyy/MM/dd"));
+}
+
+// Year first, as it is stored, with any of the usual separators, or eight digits.
+QDate readDate(QString text) {
+    text = text.trimmed();
+    for (const QChar separator : {QLatin1Char('-'), QLatin1Char('.'), QLatin1Char(' ')}) {
+        text.replace(separator, QLatin1Char('/'));
+    }
+    const auto date = QDate::fromString(text, QStringLiteral("yyyy/M/d"));
+    return date.isValid() ? date : QDate::fromString(text, QStringLiteral("yyyyMMdd"));
+}
+
+} // namespace
+
+DateEdit::DateEdit(QWidget* parent)
+    : QLineEdit(parent) {
+    setPlaceholderText(QStringLiteral("yyyy/mm/dd"));
+    setToolTip(QStringLiteral("yyyy/mm/dd; Alt+Down opens the calendar"));
+    connectHandler(this, &QLineEdit::returnPressed, this, &DateEdit::tidy);
+}
+
+QDate DateEdit::date() const {
+    return readDate(text());
+}
+
+void DateEdit::setDate(const QDate& date) {
+    setText(dateText(date));
+}
+
+bool DateEdit::isAcceptable() const {
+    return text().trimmed().isEmpty() || date().isValid();
+}
+
+void DateEdit::tidy() {
+    if (const auto typed = date(); typed.isValid()) {
+        setDate(typed);
+    } else if (!isAcceptable()) {
+        emit dateRefused(text());
+    }
+}
+
+void DateEdit::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::MouseFocusReason) {
+        guarded([this] { tidy(); });
+    }
+}
+
+void DateEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier) {
+        guarded([this] { pickDate(); });
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void DateEdit::pickDate() {
+    QDialog popup(this, Qt::Popup);
+    popup.setObjectName(QStringLiteral("Calendar"));
+    popup.setAccessibleName(QStringLiteral("Calendar"));
+    auto* layout = new QVBoxLayout(&popup);
+    layout->setContentsMargins(2, 2, 2, 2);
+    auto* calendar = new QCalendarWidget(&popup);
+    calendar->setAccessibleName(QStringLiteral("Calendar"));
+    calendar->setSelectedDate(date().isValid() ? date() : QDate::currentDate());
+    layout->addWidget(calendar);
+    connectHandler(calendar, &QCalendarWidget::activated, &popup, &QDialog::accept);
+    connectHandler(calendar, &QCalendarWidget::clicked, &popup, &QDialog::accept);
+    popup.move(mapToGlobal(QPoint(0, height())));
+    if (runModal(popup) == QDialog::Accepted) {
+        setDate(calendar->selectedDate());
+        emit textEdited(text());
+    }
+}
+
+} // namespace velcro::ui

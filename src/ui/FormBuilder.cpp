@@ -1,0 +1,227 @@
+#include "ui/FormBuilder.h"
+
+#include "ui/DateEdit.h"
+#include "ui/Handler.h"
+#include "ui/Icons.h"
+#include "ui/Theme.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QValidator>
+
+namespace velcro::ui {
+
+namespace {
+
+constexpr int spacing = 6;
+constexpr int margin = 10;
+constexpr int frameWidth = 20; // of an edit, left and right of its letters
+constexpr int arrowWidth = 36;
+
+class UpperCase : public QValidator
+{
+public:
+    using QValidator::QValidator;
+    State validate(QString& input, int& /*position*/) const override {
+        input = input.toUpper();
+        return Acceptable;
+    }
+};
+
+int widthOf(const QWidget& widget, int letters) {
+    return widget.fontMetrics().averageCharWidth() * letters + frameWidth;
+}
+
+// "Order Date:" and "&Search" are spoken without their marks.
+QString spoken(const QString& label) {
+    QString name = label;
+    name.remove(QLatin1Char('&')).remove(QLatin1Char(':'));
+    return name.simplified();
+}
+
+} // namespace
+
+FormBuilder::FormBuilder(QWidget* page)
+    : page_(page)
+    , rows_(new QVBoxLayout(page)) {
+    rows_->setContentsMargins(margin, margin, margin, margin);
+    rows_->setSpacing(spacing);
+}
+
+QGroupBox* FormBuilder::group(const QString& title) {
+    return addGroup(title, false);
+}
+
+QGroupBox* FormBuilder::groupBeside(const QString& title) {
+    return addGroup(title, true);
+}
+
+QGroupBox* FormBuilder::addGroup(const QString& title, bool besideLast) {
+    if (!besideLast || groups_ == nullptr) {
+        groups_ = new QHBoxLayout;
+        rows_->addLayout(groups_);
+    }
+    auto* box = new QGroupBox(title, page_);
+    box->setAccessibleName(spoken(title));
+    groups_->addWidget(box, 1);
+    newGrid(box);
+    return box;
+}
+
+void FormBuilder::newGrid(QWidget* owner) {
+    owner_ = owner;
+    grid_ = new QGridLayout(owner);
+    grid_->setContentsMargins(margin, margin, margin, margin);
+    grid_->setHorizontalSpacing(margin);
+    grid_->setVerticalSpacing(spacing);
+    row_ = 0;
+    column_ = 0;
+    beside_ = false;
+}
+
+FormBuilder& FormBuilder::beside() {
+    beside_ = true;
+    return *this;
+}
+
+void FormBuilder::place(QWidget* widget, const QString& label) {
+    if (grid_ == nullptr) {
+        auto* plain = new QWidget(page_);
+        rows_->addWidget(plain);
+        newGrid(plain);
+        widget->setParent(plain);
+    }
+    if (beside_) {
+        column_ += 2;
+    } else {
+        row_ = grid_->rowCount();
+        column_ = 0;
+    }
+    beside_ = false;
+    if (label.isEmpty()) {
+        grid_->addWidget(widget, row_, column_, 1, 2);
+    } else {
+        auto* text = new QLabel(label, owner_);
+        text->setBuddy(widget);
+        grid_->addWidget(text, row_, column_);
+        grid_->addWidget(widget, row_, column_ + 1, Qt::AlignLeft);
+    }
+    // What is left of the row goes behind its last control.
+    for (int i = 0; i < grid_->columnCount(); ++i) {
+        grid_->setColumnStretch(i, i % 2);
+    }
+}
+
+void FormBuilder::control(QWidget* widget, const QString& name, const QString& label) {
+    widget->setObjectName(name);
+    if (!label.isEmpty()) {
+        widget->setAccessibleName(spoken(label));
+    }
+    if (widget->parentWidget() == nullptr) {
+        widget->setParent(owner_ != nullptr ? owner_ : page_);
+    }
+    place(widget, label);
+}
+
+QLineEdit* FormBuilder::edit(const QString& name, const QString& label,
+                             const EditOptions& options) {
+    auto* edit = new QLineEdit;
+    edit->setFixedWidth(widthOf(*edit, options.width));
+    edit->setPlaceholderText(options.emptyText);
+    edit->setReadOnly(options.readOnly);
+    if (options.limit > 0) {
+        edit->setMaxLength(options.limit);
+    }
+    if (options.upperCase) {
+        edit->setValidator(new UpperCase(edit));
+    }
+    if (options.password) {
+        edit->setEchoMode(QLineEdit::Password);
+    }
+    control(edit, name, label);
+    return edit;
+}
+
+DateEdit* FormBuilder::date(const QString& name, const QString& label) {
+    auto* edit = new DateEdit;
+    edit->setFixedWidth(widthOf(*edit, 13));
+    control(edit, name, label);
+    auto* button = buttonAfter(edit, QStringLiteral("btn") + name.mid(2),
+                               edit->accessibleName() + QStringLiteral(" calendar"),
+                               QStringLiteral("calendar"));
+    connectHandler(button, &QToolButton::clicked, edit, &DateEdit::pickDate);
+    return edit;
+}
+
+QComboBox* FormBuilder::combo(const QString& name, const QString& label, const QStringList& entries,
+                              int width) {
+    auto* combo = new QComboBox;
+    combo->addItems(entries);
+    combo->setFixedWidth(widthOf(*combo, width) + arrowWidth);
+    control(combo, name, label);
+    return combo;
+}
+
+QPlainTextEdit* FormBuilder::memo(const QString& name, const QString& label, int lines, int width) {
+    auto* memo = new QPlainTextEdit;
+    memo->setTabChangesFocus(true);
+    memo->setFixedSize(widthOf(*memo, width),
+                       memo->fontMetrics().lineSpacing() * lines + frameWidth);
+    control(memo, name, label);
+    return memo;
+}
+
+QCheckBox* FormBuilder::check(const QString& name, const QString& caption) {
+    auto* check = new QCheckBox(caption);
+    check->setMinimumHeight(touchHeight);
+    check->setAccessibleName(spoken(caption));
+    control(check, name, {});
+    return check;
+}
+
+QLabel* FormBuilder::value(const QString& name, const QString& label, const QString& text) {
+    auto* value = new QLabel(text);
+    value->setTextFormat(Qt::PlainText);
+    control(value, name, label);
+    return value;
+}
+
+QToolButton* FormBuilder::buttonAfter(QLineEdit* edit, const QString& name,
+                                      const QString& accessibleName, const QString& iconName) {
+    auto* button = new QToolButton(owner_);
+    button->setObjectName(name);
+    button->setAccessibleName(accessibleName);
+    button->setToolTip(accessibleName);
+    button->setIcon(icon(iconName));
+    button->setIconSize(QSize(22, 22));
+    button->setFixedSize(touchHeight, touchHeight);
+    // The keyboard has its own way to it, and Tab goes from edit to edit.
+    button->setFocusPolicy(Qt::NoFocus);
+    auto* pair = new QHBoxLayout;
+    pair->setSpacing(2);
+    grid_->removeWidget(edit);
+    pair->addWidget(edit);
+    pair->addWidget(button);
+    pair->addStretch(1);
+    grid_->addLayout(pair, row_, column_ + 1);
+    return button;
+}
+
+QToolButton* FormBuilder::browseButton(QLineEdit* edit) {
+    return buttonAfter(edit, QStringLiteral("btn") + edit->objectName().mid(2),
+                       QStringLiteral("Browse ") + edit->accessibleName(),
+                       QStringLiteral("search"));
+}
+
+void FormBuilder::stretch() {
+    rows_->addStretch(1);
+}
+
+} // namespace velcro::ui

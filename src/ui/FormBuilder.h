@@ -1,0 +1,83 @@
+// Declares the controls of a form in reading order: groups, labels on the left, edits of the width
+// of what goes in. Every control gets its member's name, an accessible name, and its label as buddy.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QToolButton;
+class QVBoxLayout;
+
+namespace velcro::ui {
+
+class DateEdit;
+
+/// What differs from a plain edit of twenty letters.
+struct EditOptions
+{
+    int width = 20; // letters that are seen at once
+    int limit = 0;  // letters that can be typed; 0 is no limit
+    bool upperCase = false;
+    bool readOnly = false;
+    bool password = false;
+    QString emptyText;
+};
+
+/// Rows go below each other in the group that was begun last, or, with no group, in one without a
+/// frame. Tab follows the order of declaration.
+class FormBuilder
+{
+public:
+    /// Lays the page out; give it no other layout.
+    explicit FormBuilder(QWidget* page);
+
+    /// Begins a titled group below the last one, or beside it.
+    QGroupBox* group(const QString& title);
+    QGroupBox* groupBeside(const QString& title);
+    /// The next control stands to the right of the last one instead of below it.
+    FormBuilder& beside();
+
+    QLineEdit* edit(const QString& name, const QString& label, const EditOptions& options = {});
+    /// With a button that opens a calendar.
+    DateEdit* date(const QString& name, const QString& label);
+    QComboBox* combo(const QString& name, const QString& label, const QStringList& entries = {},
+                     int width = 20);
+    QPlainTextEdit* memo(const QString& name, const QString& label, int lines = 4, int width = 40);
+    QCheckBox* check(const QString& name, const QString& caption);
+    /// Text that nobody types into, such as what a row holds already.
+    QLabel* value(const QString& name, const QString& label, const QString& text = {});
+    /// Any other control; a blank label lets it take the label's room too.
+    void control(QWidget* widget, const QString& name, const QString& label);
+    /// A button at the right end of an edit that was declared last, named btn + the edit's name.
+    QToolButton* browseButton(QLineEdit* edit);
+
+    /// Room below the last group that grows with the window.
+    void stretch();
+
+private:
+    QGroupBox* addGroup(const QString& title, bool besideLast);
+    void newGrid(QWidget* owner);
+    QToolButton* buttonAfter(QLineEdit* edit, const QString& name, const QString& accessibleName,
+                             const QString& icon);
+    void place(QWidget* widget, const QString& label);
+
+    QWidget* page_;
+    QVBoxLayout* rows_;
+    QHBoxLayout* groups_ = nullptr; // the groups that stand beside each other
+    QWidget* owner_ = nullptr;
+    QGridLayout* grid_ = nullptr;
+    int row_ = 0;
+    int column_ = 0;
+    bool beside_ = false;
+};
+
+} // namespace velcro::ui

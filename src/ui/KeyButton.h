@@ -1,0 +1,34 @@
+// A large button for finger and mouse, with the cap of the key that does the same.
+#pragma once
+
+#include <QPushButton>
+
+namespace velcro::ui {
+
+class KeyButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// The one main action of a screen stands out, the dangerous one stands apart.
+    enum class Role { Plain, Main, Danger };
+
+    explicit KeyButton(const QString& caption = {}, QWidget* parent = nullptr);
+
+    /// The key as printed on a keyboard: "F10", "INS", "CTRL-P"; an empty one takes the cap away.
+    /// The key itself is bound elsewhere.
+    void setKeyCap(const QString& key);
+    QString keyCap() const { return key_; }
+
+    void setRole(Role role);
+    /// A button of a vertical panel starts with its cap, so that captions stand in line.
+    void setInPanel(bool inPanel);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+private:
+    QString key_;
+};
+
+} // namespace velcro::ui

@@ -1,0 +1,54 @@
+// The grid of the list screens: whole rows, sorted by a click on a heading, read at arm's length.
+#pragma once
+
+#include "ui/RowSetModel.h"
+
+#include <QTableView>
+
+namespace velcro::ui {
+
+class RowGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit RowGrid(QWidget* parent = nullptr);
+
+    void setColumns(std::vector<GridColumn> columns);
+    /// Shows new rows and stands on the first one.
+    void setRows(const sql::RowSet& rows);
+    RowSetModel& rowModel() { return model_; }
+    const RowSetModel& rowModel() const { return model_; }
+
+    /// Row of the result the user stands on; nothing in an empty grid.
+    std::optional<std::size_t> currentResultRow() const;
+    /// Stands on the row whose field reads as the value; false, and stays, when there is none.
+    bool locate(const QString& field, const QString& value);
+
+    void first();
+    void previous();
+    void next();
+    void last();
+
+signals:
+    /// Enter on a row, or a double click.
+    void rowChosen();
+    /// The user stands on another row, or the rows are new.
+    void currentRecordChanged();
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    int sizeHintForColumn(int column) const override;
+
+private:
+    void showOnlyVisibleColumns();
+    void fitColumns();
+    void goTo(int viewRow);
+
+    RowSetModel model_;
+    bool columnsFitted_ = false;
+};
+
+} // namespace velcro::ui
