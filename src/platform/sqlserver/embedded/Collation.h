@@ -64,6 +64,7 @@ private:
     void findShape();
     bool matchesShape(std::string_view text) const;
     bool matchesFrom(std::string_view text, std::size_t step) const;
+    static bool matchesOne(const Step& step, std::string_view text, std::size_t& at);
 
     std::vector<Step> steps_;
     Shape shape_ = Shape::General;
