@@ -3,8 +3,11 @@
 // fill them.
 #pragma once
 
+#include "data/TextLines.h"
+
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 
@@ -105,6 +108,10 @@ inline QString gAPFrom, gAPTo;
 // ---- idle lock and day end ----
 inline int gEXELockTime = 0; // minutes, 0 is no lock
 inline QString gEODInitiated;
+
+// ---- scratch text and lists ----
+inline TextLines gMemo, gNotes, gEODLogs, gARPLogs;
+inline QStringList gWinProcs, gVisProgs, gOnlineLog;
 
 // ---- return slots: a routine with several results leaves them here ----
 // gSParam1 is gSParam[1]; index 0 is not used.

@@ -1,0 +1,7 @@
+#include "platform/seat/RegionalFormats.h"
+
+namespace velcro::seat {
+
+void forceSystemFormats() {}
+
+} // namespace velcro::seat

@@ -1,0 +1,51 @@
+#include "security/SysMachine.h"
+
+#include "platform/seat/MachineIdentity.h"
+
+#include <QStringList>
+#include <QVersionNumber>
+
+using namespace velcro;
+
+QString sm_GetMACAddress() {
+    return seat::adapterAddresses().isEmpty() ? QStringLiteral("MACAddress Not Found")
+                                              : sm_GetAdapterInfo(0);
+}
+
+QString sm_GetAdapterInfo(int Lana) {
+    return seat::adapterAddresses().value(Lana, QStringLiteral("Mac NOT Found"));
+}
+
+QString sm_GetSerialID() {
+    const auto serial = seat::volumeSerial();
+    return serial ? QStringLiteral("%1").arg(*serial, 8, 16, QLatin1Char('0')).toUpper()
+                  : QString();
+}
+
+QString sm_GetPCName() {
+    return seat::computerName().left(20);
+}
+
+QString sm_Get_Login_UserName() {
+    return seat::userName();
+}
+
+QString sm_GetIP() {
+    const QStringList addresses = seat::hostAddresses();
+    return addresses.isEmpty() ? QString() : addresses.last();
+}
+
+QString sm_Version() {
+    return versionText(QStringLiteral(VELCRO_VERSION));
+}
+
+QString versionText(const QString& dotted) {
+    const auto version = QVersionNumber::fromString(dotted);
+    if (version.isNull()) {
+        return QStringLiteral("0.0.0");
+    }
+    return QStringLiteral("%1.%2.%3")
+        .arg(version.majorVersion())
+        .arg(version.minorVersion(), 2, 10, QLatin1Char('0'))
+        .arg(version.microVersion(), 2, 10, QLatin1Char('0'));
+}
