@@ -1,0 +1,20 @@
+#include "application/Terminate.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace {
+std::function<void()> closeMainForm;
+}
+
+void setMainFormClose(std::function<void()> close) {
+    closeMainForm = std::move(close);
+}
+
+void terminateApplication() {
+    if (closeMainForm) {
+        closeMainForm();
+    }
+    QCoreApplication::exit(0);
+}

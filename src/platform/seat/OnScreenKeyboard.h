@@ -1,0 +1,12 @@
+// The keyboards on screen that a touch seat has.
+#pragma once
+
+#include <QString>
+
+namespace velcro::seat {
+
+/// Full path of the keyboard made for touch, and of the plain one; blank when the seat has none.
+QString touchKeyboard();
+QString onScreenKeyboard();
+
+} // namespace velcro::seat

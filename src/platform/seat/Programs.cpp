@@ -1,0 +1,44 @@
+#include "platform/seat/Programs.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <utility>
+
+namespace velcro::seat {
+
+namespace {
+
+QString findOnSeat(const QString& name) {
+    const QString beside =
+        QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+    return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
+}
+
+bool startOnSeat(const QString& path, const QStringList& arguments) {
+    return QProcess::startDetached(path, arguments);
+}
+
+ProgramFinder finderInUse = findOnSeat;
+ProgramStarter starterInUse = startOnSeat;
+
+} // namespace
+
+QString findProgram(const QString& name) {
+    return finderInUse(name);
+}
+
+bool startProgram(const QString& path, const QStringList& arguments) {
+    return starterInUse(path, arguments);
+}
+
+void setProgramFinder(ProgramFinder finder) {
+    finderInUse = finder ? std::move(finder) : findOnSeat;
+}
+
+void setProgramStarter(ProgramStarter starter) {
+    starterInUse = starter ? std::move(starter) : startOnSeat;
+}
+
+} // namespace velcro::seat
