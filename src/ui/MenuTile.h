@@ -1,0 +1,27 @@
+// A large button of a menu: picture, caption and the key that does the same, readable from a step
+// away.
+#pragma once
+
+#include <QIcon>
+#include <QPushButton>
+
+namespace velcro::ui {
+
+class MenuTile : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// The button's own icon is the key cap, in the corner.
+    MenuTile(const QString& name, const QString& caption, const QString& picture,
+             const QSize& size, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QIcon picture_;
+    QIcon greyedPicture_;
+};
+
+} // namespace velcro::ui

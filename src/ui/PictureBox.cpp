@@ -1,0 +1,40 @@
+#include "ui/PictureBox.h"
+
+#include "ui/Handler.h"
+#include "ui/Icons.h"
+
+#include <QPainter>
+
+namespace velcro::ui {
+
+PictureBox::PictureBox(const QString& name, QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(name);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PictureBox::setPicture(const QString& name, Qt::AspectRatioMode fit) {
+    picture_ = name;
+    fit_ = fit;
+    update();
+}
+
+void PictureBox::setImage(const QImage& image) {
+    image_ = image;
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    guarded([this] {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        if (image_.isNull()) {
+            paintPicture(painter, picture_, rect(), fit_);
+        } else {
+            painter.drawImage(rect(), image_);
+        }
+    });
+}
+
+} // namespace velcro::ui
