@@ -1,16 +1,14 @@
 #include "application/DayEnd.h"
 
 #include "application/PeriodAndTax.h"
-#include "application/SqlFailure.h"
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
+#include "data/ReadGuard.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "platform/seat/Programs.h"
 
 namespace {
-
-const QString table = QStringLiteral("SYSEODLog");
 
 bool isAskedFor(const QString& runDate) {
     Statement query(gData->Velmara);
@@ -24,8 +22,8 @@ bool isAskedFor(const QString& runDate) {
 }
 
 bool askFor(const QString& runDate, const QString& monthEnd) {
-    const QStringList values{gCO,          gBranch,    runDate,   monthEnd, {}, {}, {}, {},
-                             sfg_Date(0),  sfg_Time(), gUserCode, gPCName,  "X", {}};
+    const QStringList values{gCO, gBranch,     runDate,    monthEnd,  {},      {},  {},
+                             {},  sfg_Date(0), sfg_Time(), gUserCode, gPCName, "X", {}};
     sfg_AddSQL("INSERT INTO SYSEODLog ( "
                "[CO], [Branch], [RunDate], [MonthEnd], [StartDate], [StartTime], [EndDate],  "
                "[EndTime], [DTODate], [DTOTime], [DTOUser], [DTOMacID], [Status], [LogData]   "
@@ -33,6 +31,18 @@ bool askFor(const QString& runDate, const QString& monthEnd) {
                    QuotedStrArray(values) + ")",
                "NEW");
     return gData->vel_ExecSQL(1);
+}
+
+bool isRunFromHere() {
+    Statement query(gData->Velmara);
+    query.NewRead();
+    query.SQL.Add("SELECT * FROM SysEODLog WITH (NOLOCK) ");
+    query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
+    query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
+    query.SQL.Add("   AND [Status] < " + QuotedStr("9"));
+    query.SQL.Add("   AND [DTOMacID] = " + QuotedStr(gPCName));
+    query.Open();
+    return !query.IsEmpty();
 }
 
 /// A missing velEOD is silent: the row stays, and no other seat of the branch tries again.
@@ -47,14 +57,10 @@ void startDayEnd() {
 
 bool sfvel_Check_EndOfDay_Run() {
     gEODInitiated = "N";
-    bool askedFor = false;
     const QString yesterday = sfg_Date(-1);
-    try {
-        askedFor = isAskedFor(yesterday);
-    } catch (const std::exception& error) {
-        showSqlFailure("SFVEL-10", table, error, "SysFuncVelmara", "sfvel_Check_EndOfDay_Run");
-        throw;
-    }
+    const bool askedFor =
+        guardedRead("SFVEL-10", "SYSEODLog", "SysFuncVelmara", "sfvel_Check_EndOfDay_Run",
+                    [&yesterday] { return isAskedFor(yesterday); });
     if (askedFor) {
         return true;
     }
@@ -68,18 +74,9 @@ bool sfvel_Check_EndOfDay_Run() {
 
 bool sfvel_Check_DayEnd_Progress() {
     try {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM SysEODLog WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-        query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
-        query.SQL.Add("   AND [Status] < " + QuotedStr("9"));
-        query.SQL.Add("   AND [DTOMacID] = " + QuotedStr(gPCName));
-        query.Open();
-        return !query.IsEmpty();
-    } catch (const std::exception& error) {
-        showSqlFailure("SFVEL-11", "SysEODLog", error, "SysFuncVelmara",
-                       "sfvel_Check_DayEnd_Progress");
-        return false;
+        return guardedRead("SFVEL-11", "SysEODLog", "SysFuncVelmara", "sfvel_Check_DayEnd_Progress",
+                           isRunFromHere);
+    } catch (const std::exception&) {
+        return false; // shown already; the session goes on without knowing
     }
 }

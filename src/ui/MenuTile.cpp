@@ -22,10 +22,11 @@ constexpr QRgb greyedInk = 0xff8a8f98;
 MenuTile::MenuTile(const QString& name, const QString& caption, const QString& picture,
                    const QSize& size, QWidget* parent)
     : QPushButton(caption, parent)
-    , picture_(icon(picture, QColor(0xf4f6f9)))
-    , greyedPicture_(icon(picture, QColor(greyedInk))) {
+    , picture_(velcro::ui::icon(picture, QColor(0xf4f6f9)))
+    , greyedPicture_(velcro::ui::icon(picture, QColor(greyedInk))) {
     setObjectName(name);
-    setAccessibleName(QString(caption).replace(QLatin1String("&&"), QLatin1String("&")).simplified());
+    setAccessibleName(
+        QString(caption).replace(QLatin1String("&&"), QLatin1String("&")).simplified());
     setFixedSize(size);
     setAutoDefault(false);
     setAttribute(Qt::WA_Hover);
@@ -45,7 +46,8 @@ void MenuTile::paintEvent(QPaintEvent* /*event*/) {
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 6, 6);
 
         const int side = height() * 2 / 5;
-        (live ? picture_ : greyedPicture_).paint(&painter, QRect(2 * unit, unit * 3 / 2, side, side));
+        (live ? picture_ : greyedPicture_)
+            .paint(&painter, QRect(2 * unit, unit * 3 / 2, side, side));
         const QRect corner(QPoint(width() - iconSize().width() - 2 * unit, unit * 3 / 2),
                            iconSize());
         QPushButton::icon().paint(&painter, corner, Qt::AlignCenter,

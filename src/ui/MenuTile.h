@@ -13,8 +13,8 @@ class MenuTile : public QPushButton
 
 public:
     /// The button's own icon is the key cap, in the corner.
-    MenuTile(const QString& name, const QString& caption, const QString& picture,
-             const QSize& size, QWidget* parent);
+    MenuTile(const QString& name, const QString& caption, const QString& picture, const QSize& size,
+             QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
