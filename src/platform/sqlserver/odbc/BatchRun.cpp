@@ -6,6 +6,8 @@
 #include "platform/sqlserver/odbc/Diagnostics.h"
 #include "platform/sqlserver/odbc/Handle.h"
 
+#include <algorithm>
+
 namespace velcro::sql::odbc {
 
 namespace {
@@ -64,10 +66,11 @@ private:
         }
         RowSet rows;
         try {
-            const auto code = fetchRows(statement_.get(), columns, kind_, rows);
-            note(code, result);
-            if (SQL_SUCCEEDED(code)) {
+            const auto problems = fetchRows(statement_.get(), columns, kind_, rows);
+            if (problems.empty()) {
                 result.rows = std::move(rows);
+            } else {
+                note(problems, result);
             }
         } catch (const TruncatedCell& cut) {
             keep({"22001", {.text = cut.what()}}, SqlErrorKind::Statement);
@@ -81,18 +84,18 @@ private:
         }
     }
 
-    /// Collects what was said, and the error if the call failed.
     void note(SQLRETURN code, StatementResult& result) {
-        if (code == SQL_SUCCESS || code == SQL_NO_DATA) {
-            return;
+        if (code != SQL_SUCCESS && code != SQL_NO_DATA) {
+            note(diagnostics(SQL_HANDLE_STMT, statement_.get(), !SQL_SUCCEEDED(code)), result);
         }
-        const bool failed = !SQL_SUCCEEDED(code);
-        const auto all = diagnostics(SQL_HANDLE_STMT, statement_.get(), failed);
-        for (const auto& diagnostic : all) {
+    }
+
+    void note(const std::vector<Diagnostic>& said, StatementResult& result) {
+        for (const auto& diagnostic : said) {
             result.messages.push_back(diagnostic.message);
         }
-        if (failed) {
-            noteFailure(all);
+        if (std::any_of(said.begin(), said.end(), isError)) {
+            noteFailure(said);
         }
     }
 

@@ -34,30 +34,45 @@ public:
     BlockFetch(const BlockFetch&) = delete;
     BlockFetch& operator=(const BlockFetch&) = delete;
 
-    SQLRETURN run(RowSet& rows) {
-        if (const auto code = bind(); !SQL_SUCCEEDED(code)) {
-            return code;
-        }
-        std::vector<Column> columns;
-        for (const auto& column : columns_) {
-            columns.push_back(column.column());
-        }
-        RowSetBuilder builder(std::move(columns));
-        SQLRETURN code = SQLFetch(statement_);
-        while (SQL_SUCCEEDED(code)) {
-            code = addBlock(builder);
-            if (SQL_SUCCEEDED(code)) {
-                code = SQLFetch(statement_);
+    /// Empty, or why the rows are not all there.
+    std::vector<Diagnostic> run(RowSet& rows) {
+        RowSetBuilder builder(names());
+        auto code = bind();
+        bool last = false;
+        while (SQL_SUCCEEDED(code) && !last) {
+            code = SQLFetch(statement_);
+            // FreeTDS gives the rows before a failure, and the failure, as a success with remarks.
+            auto remarks = code == SQL_SUCCESS_WITH_INFO ? said(false) : std::vector<Diagnostic>();
+            if (std::any_of(remarks.begin(), remarks.end(), isError)) {
+                return remarks;
             }
+            if (SQL_SUCCEEDED(code)) {
+                code = addBlock(builder);
+            }
+            // A block that is not full was the last. FreeTDS, asked again, would read on into the
+            // next statement's result and take its error for this one's.
+            last = fetched_ < blockRows_;
         }
-        if (code == SQL_NO_DATA) {
-            rows = builder.take();
-            return SQL_SUCCESS;
+        if (!SQL_SUCCEEDED(code) && code != SQL_NO_DATA) {
+            return said(true);
         }
-        return code;
+        rows = builder.take();
+        return {};
     }
 
 private:
+    std::vector<Diagnostic> said(bool failed) const {
+        return diagnostics(SQL_HANDLE_STMT, statement_, failed);
+    }
+
+    std::vector<Column> names() const {
+        std::vector<Column> result;
+        for (const auto& column : columns_) {
+            result.push_back(column.column());
+        }
+        return result;
+    }
+
     void setAttribute(SQLINTEGER attribute, SQLPOINTER value) {
         SQLSetStmtAttr(statement_, attribute, value, 0);
     }
@@ -125,7 +140,8 @@ private:
 
 } // namespace
 
-SQLRETURN fetchRows(SQLHANDLE statement, int columnCount, DriverKind kind, RowSet& rows) {
+std::vector<Diagnostic> fetchRows(SQLHANDLE statement, int columnCount, DriverKind kind,
+                                  RowSet& rows) {
     return BlockFetch(statement, columnCount, kind).run(rows);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/sqlserver/RowSet.h"
+#include "platform/sqlserver/odbc/Diagnostics.h"
 #include "platform/sqlserver/odbc/DriverChoice.h"
 
 #include <stdexcept>
@@ -14,9 +15,10 @@ struct TruncatedCell : std::runtime_error
     using std::runtime_error::runtime_error;
 };
 
-/// Fills rows with the statement's current result, of columnCount columns. An error code means that
-/// the statement failed on the way, with its diagnostics on it; rows then stays as it was. Throws
+/// Fills rows with the statement's current result, of columnCount columns. What it gives back is
+/// empty, or says how the statement failed on the way; rows then stays as it was. Throws
 /// TruncatedCell.
-SQLRETURN fetchRows(SQLHANDLE statement, int columnCount, DriverKind kind, RowSet& rows);
+std::vector<Diagnostic> fetchRows(SQLHANDLE statement, int columnCount, DriverKind kind,
+                                  RowSet& rows);
 
 } // namespace velcro::sql::odbc

@@ -13,12 +13,22 @@ constexpr SQLSMALLINT messageStateField = -1150;
 constexpr SQLSMALLINT severityField = -1151;
 constexpr SQLSMALLINT lineField = -1154;
 
-/// The driver's own field as a number, or fallback where the driver does not know it.
-int ownField(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT record, SQLSMALLINT field,
-             int fallback) {
+/// The driver's own field as a number; 0 where the driver does not know it.
+int ownField(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT record, SQLSMALLINT field) {
     SQLINTEGER value = 0;
     const auto code = SQLGetDiagFieldW(type, handle, record, field, &value, sizeof value, nullptr);
-    return SQL_SUCCEEDED(code) && value > 0 ? value : fallback;
+    return SQL_SUCCEEDED(code) ? value : 0;
+}
+
+void readOwnFields(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT record, SqlMessage& message) {
+    int state = ownField(type, handle, record, messageStateField);
+    int level = ownField(type, handle, record, severityField);
+    if (level == 0) {
+        std::swap(state, level); // FreeTDS has one of the two, and gives the severity as the state
+    }
+    message.level = level > 0 ? level : message.level;
+    message.state = state > 0 ? state : message.state;
+    message.line = ownField(type, handle, record, lineField);
 }
 
 std::optional<Diagnostic> readRecord(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT record) {
@@ -40,21 +50,20 @@ std::optional<Diagnostic> readRecord(SQLSMALLINT type, SQLHANDLE handle, SQLSMAL
     }
     text.resize(std::min(text.size(), static_cast<std::size_t>(std::max<int>(length, 0))));
     Diagnostic result{toUtf8(std::u16string_view(state, 5)), {}};
-    const bool information = result.sqlState.starts_with("01") || result.sqlState == "00000";
     result.message.number = native;
     result.message.text = withoutPrefixes(toUtf8(text));
-    result.message.level =
-        information ? 0 : ownField(type, handle, record, severityField, result.message.level);
-    result.message.state = ownField(type, handle, record, messageStateField, 1);
-    result.message.line = ownField(type, handle, record, lineField, 0);
+    readOwnFields(type, handle, record, result.message);
+    if (result.sqlState.starts_with("01") || result.sqlState == "00000") {
+        result.message.level = 0;
+    }
     return result;
 }
+
+} // namespace
 
 bool isError(const Diagnostic& diagnostic) {
     return diagnostic.message.level > 10;
 }
-
-} // namespace
 
 std::vector<Diagnostic> diagnostics(SQLSMALLINT handleType, SQLHANDLE handle, bool failed) {
     std::vector<Diagnostic> all;
@@ -74,6 +83,16 @@ const Diagnostic& decisive(const std::vector<Diagnostic>& all) {
     const auto lost = std::find_if(all.begin(), all.end(),
                                    [](const Diagnostic& d) { return isLossState(d.sqlState); });
     return lost != all.end() ? *lost : *std::find_if(all.begin(), all.end(), isError);
+}
+
+const Diagnostic& connectCause(const std::vector<Diagnostic>& all) {
+    auto found = std::find_if(all.begin(), all.end(),
+                              [](const Diagnostic& d) { return d.message.number != 0; });
+    if (found == all.end()) {
+        found = std::find_if(all.begin(), all.end(),
+                             [](const Diagnostic& d) { return d.sqlState != "08001"; });
+    }
+    return found == all.end() ? all.front() : *found;
 }
 
 bool isLossState(std::string_view sqlState) {

@@ -17,6 +17,8 @@ struct Diagnostic
     SqlMessage message; // level 0 for information
 };
 
+bool isError(const Diagnostic& diagnostic);
+
 /// Everything said about the last call on the handle, in the driver's order. failed tells whether
 /// the call did: one of the diagnostics is then an error, even where the driver graded none so, and
 /// there is always one.
@@ -24,6 +26,9 @@ std::vector<Diagnostic> diagnostics(SQLSMALLINT handleType, SQLHANDLE handle, bo
 
 /// The diagnostic a failed call is reported by; a broken connection's own one before others.
 const Diagnostic& decisive(const std::vector<Diagnostic>& all);
+
+/// Why a connection was not made. Drivers put a bare "cannot connect" beside the cause, in any order.
+const Diagnostic& connectCause(const std::vector<Diagnostic>& all);
 
 /// SQLSTATEs that say that there is no connection any more.
 bool isLossState(std::string_view sqlState);

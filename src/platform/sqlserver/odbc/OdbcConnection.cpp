@@ -34,6 +34,21 @@ Driver driverFor(SQLHANDLE environment) {
                    {.text = "No ODBC driver for SQL Server is installed on this machine."}, {});
 }
 
+/// Whether work went well; false where the server has no transaction for it.
+template <typename Work>
+bool ignoringMissingTransaction(Work work) {
+    try {
+        work();
+        return true;
+    } catch (const SqlError& error) {
+        const bool missing = error.sqlState() == "25000" || error.number() == 3903;
+        if (!missing || error.kind() != SqlErrorKind::Statement) {
+            throw;
+        }
+        return false;
+    }
+}
+
 class OdbcConnection final : public SqlConnection
 {
 public:
@@ -79,7 +94,7 @@ void OdbcConnection::connect(const ConnectionSettings& settings) {
                                         static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
                                         SQL_DRIVER_NOPROMPT);
     if (!SQL_SUCCEEDED(code)) {
-        auto [state, message] = decisive(diagnostics(SQL_HANDLE_DBC, connection.get(), true));
+        auto [state, message] = connectCause(diagnostics(SQL_HANDLE_DBC, connection.get(), true));
         message.text = withoutPassword(std::move(message.text), settings.password);
         throw SqlError(SqlErrorKind::NotConnected, state, std::move(message), {});
     }
@@ -172,16 +187,17 @@ void OdbcConnection::rollback() {
         return; // the server has rolled back when the connection went
     }
     requireConnected();
-    try {
-        endTransaction(SQL_ROLLBACK);
-    } catch (const SqlError& error) {
-        // Some errors make the server end the transaction by itself; there is nothing left to do.
-        const bool alreadyOver = error.sqlState() == "25000" || error.number() == 3903;
-        if (!alreadyOver || error.kind() != SqlErrorKind::Statement) {
-            throw;
-        }
+    // Some errors make the server end the transaction by itself; there is nothing left to do then.
+    ignoringMissingTransaction([this] { endTransaction(SQL_ROLLBACK); });
+    if (!autoCommit_) {
+        return;
     }
-    setAutoCommit(autoCommit_);
+    if (!ignoringMissingTransaction([this] { setAutoCommit(true); })) {
+        // A driver that rolls back once more before it turns auto-commit on stays off without a
+        // transaction to roll back.
+        execute("BEGIN TRANSACTION");
+        setAutoCommit(true);
+    }
 }
 
 } // namespace

@@ -1,0 +1,189 @@
+// The ODBC end through FreeTDS against a server that fails, talks and breaks off at will.
+#include "platform/sqlserver/odbc/OdbcConnection.h"
+#include "support/TdsServer.h"
+
+#include <gtest/gtest.h>
+
+using namespace velcro::sql;
+using velcro::test::TdsReply;
+using velcro::test::TdsServer;
+
+namespace {
+
+TdsReply answer(const std::string& batch) {
+    TdsReply reply;
+    if (batch == "cut at once") {
+        return reply.cut();
+    }
+    if (const auto at = batch.find(" after "); at != std::string::npos) {
+        reply.column("s");
+        for (int i = 0; i < std::stoi(batch.substr(at + 7)); ++i) {
+            reply.row("row " + std::to_string(i));
+        }
+        return batch.starts_with("cut")
+                   ? reply.cut()
+                   : reply.error(245, "Conversion failed.").done(-1, false, true);
+    }
+    if (batch == "three statements") {
+        reply.column("s").row("first").done(1, true);
+        reply.error(208, "Invalid object name 'nowhere'.", 15, 3, 2).done(-1, true, true);
+        reply.error(2627, "Violation of PRIMARY KEY constraint.", 14, 1, 3).done(-1, true, true);
+        return reply.done(5);
+    }
+    if (batch == "PRINT") {
+        return reply.information(0, "printed").done();
+    }
+    if (batch == "first fails") {
+        return reply.error(245, "Conversion failed.").done(-1, false, true);
+    }
+    if (batch.starts_with("echo ")) {
+        return reply.column("s").row(batch.substr(5)).done(1);
+    }
+    return reply.done();
+}
+
+class OdbcServerTest : public testing::Test
+{
+protected:
+    void connect() { connection->connect(settings); }
+
+    SqlError failure(const std::function<void()>& work) {
+        try {
+            work();
+        } catch (const SqlError& error) {
+            return error;
+        }
+        throw std::logic_error("did not fail");
+    }
+    SqlError failure(const char* batch) {
+        return failure([this, batch] { connection->execute(batch); });
+    }
+
+    TdsServer server{answer};
+    ConnectionSettings settings{.server = server.address(),
+                                .database = "suite",
+                                .user = "till",
+                                .password = "Top;Secret}1"};
+    std::unique_ptr<SqlConnection> connection = createOdbcConnection();
+};
+
+} // namespace
+
+TEST_F(OdbcServerTest, errorsOfLaterStatementsAreSeenAndTheFirstIsThrown) {
+    connect();
+    std::vector<std::string> seen;
+    const auto collect = [&seen](StatementResult&& result) {
+        for (const auto& message : result.messages) {
+            seen.push_back("message " + std::to_string(message.number));
+        }
+        if (result.rows) {
+            seen.push_back("row " + result.rows->text(0, 0));
+        } else if (result.affected >= 0) {
+            seen.push_back("count " + std::to_string(result.affected));
+        }
+    };
+    const auto error = failure([&] { connection->run("three statements", {}, collect); });
+    EXPECT_EQ(seen,
+              (std::vector<std::string>{"row first", "message 208", "message 2627", "count 5"}));
+    EXPECT_EQ(error.kind(), SqlErrorKind::Statement);
+    EXPECT_EQ(error.number(), 208);
+    EXPECT_EQ(error.sqlState(), "42S02");
+    EXPECT_STREQ(error.what(), "Invalid object name 'nowhere'.");
+    EXPECT_EQ(error.message().level, 15);
+    EXPECT_EQ(error.message().line, 2);
+    EXPECT_EQ(error.statement(), "three statements");
+    EXPECT_EQ(connection->query("echo still here").text(0, 0), "still here");
+    EXPECT_EQ(failure("first fails").number(), 245);
+}
+
+TEST_F(OdbcServerTest, aSelectThatFailsOnTheWayGivesNoRows) {
+    connect();
+    for (const char* batch :
+         {"fail after 0", "fail after 1", "fail after 2000", "fail after 2500"}) {
+        bool gaveRows = false;
+        const auto error = failure([&] {
+            connection->run(batch, {}, [&gaveRows](StatementResult&& result) {
+                gaveRows = gaveRows || result.rows;
+            });
+        });
+        EXPECT_EQ(error.number(), 245) << batch;
+        EXPECT_FALSE(gaveRows) << batch << ": some of the rows would pass for all of them";
+        EXPECT_EQ(connection->query("echo on").text(0, 0), "on");
+    }
+}
+
+TEST_F(OdbcServerTest, printedTextIsInformation) {
+    connect();
+    std::vector<SqlMessage> messages;
+    connection->run("PRINT", {}, [&](StatementResult&& result) {
+        messages.insert(messages.end(), result.messages.begin(), result.messages.end());
+    });
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].text, "printed");
+    EXPECT_LT(messages[0].level, 11);
+}
+
+TEST_F(OdbcServerTest, literalsArriveNationalAndWhole) {
+    connect();
+    EXPECT_EQ(connection->query("echo 'Größe' + '漢😀' + 'plain'").text(0, 0),
+              "N'Größe' + N'漢😀' + 'plain'");
+}
+
+TEST_F(OdbcServerTest, aCutConnectionIsToldFromAFailedStatement) {
+    for (const char* batch : {"cut at once", "cut after 0", "cut after 2000", "cut after 2500"}) {
+        connect();
+        const auto error = failure(batch);
+        EXPECT_EQ(error.kind(), SqlErrorKind::ConnectionLost) << batch;
+        EXPECT_EQ(error.statement(), batch);
+        EXPECT_STRNE(error.what(), "");
+        EXPECT_FALSE(connection->isConnected());
+        EXPECT_EQ(failure("echo x").kind(), SqlErrorKind::NotConnected);
+        EXPECT_NO_THROW(connection->rollback()) << "nothing is left to roll back";
+        connect();
+        EXPECT_EQ(connection->query("echo back").text(0, 0), "back");
+    }
+    connection->begin();
+    connection->execute("work");
+    server.cutAtTransactionEnd = true;
+    EXPECT_EQ(failure([this] { connection->commit(); }).kind(), SqlErrorKind::ConnectionLost);
+    EXPECT_FALSE(connection->isConnected());
+}
+
+TEST_F(OdbcServerTest, aTransactionTheServerEndedItselfCanBeRolledBack) {
+    connect();
+    connection->begin();
+    EXPECT_EQ(failure("first fails").number(), 245);
+    server.transactionIsOver = true;
+    EXPECT_NO_THROW(connection->rollback());
+    server.transactionIsOver = false;
+    connection->begin();
+    EXPECT_NO_THROW(connection->commit());
+}
+
+TEST_F(OdbcServerTest, connectFailuresAreClearAndShowNoPassword) {
+    TdsServer refuses(answer, TdsServer::Login::Refuse);
+    TdsServer cuts(answer, TdsServer::Login::CutAtOnce);
+    TdsServer silent(answer, TdsServer::Login::NeverAnswer);
+    struct Case
+    {
+        std::string address;
+        std::vector<int> numbers; // any of them
+        const char* words;
+    };
+    const Case cases[] = {
+        {refuses.address(), {18456}, "Login failed for user 'till'."},
+        {"127.0.0.1,1", {20009}, "Unable to connect"},
+        {cuts.address(), {20002, 20006, 20017}, "erver"},
+        {silent.address(), {0}, "Timeout expired"},
+    };
+    settings.connectTimeoutSeconds = 1;
+    for (const auto& [address, numbers, words] : cases) {
+        settings.server = address;
+        const auto error = failure([this] { connect(); });
+        EXPECT_EQ(error.kind(), SqlErrorKind::NotConnected) << address;
+        EXPECT_EQ(std::count(numbers.begin(), numbers.end(), error.number()), 1) << error.what();
+        EXPECT_NE(std::string(error.what()).find(words), std::string::npos) << error.what();
+        EXPECT_EQ(std::string(error.what()).find(settings.password), std::string::npos);
+        EXPECT_FALSE(connection->isConnected());
+    }
+}
