@@ -22,7 +22,7 @@ constexpr std::size_t blockRows = 200;
 constexpr std::size_t textBytes = 82;
 constexpr int rounds = 5;
 
-const std::string select = "SELECT * FROM Orders";
+const std::string statementText = "SELECT * FROM Orders";
 
 void makeTable(SqlConnection& connection) {
     std::string columns = "RecID INTEGER, Price DOUBLE";
@@ -46,7 +46,7 @@ SQLLEN bareLoop(SQLHANDLE connection) {
     SQLULEN fetched = 0;
     set(SQL_ATTR_ROW_ARRAY_SIZE, blockRows);
     set(SQL_ATTR_ROWS_FETCHED_PTR, &fetched);
-    const auto text = toUtf16(select);
+    const auto text = toUtf16(statementText);
     SQLExecDirectW(statement.get(), wide(text.data()), SQL_NTS);
     std::vector<std::vector<char>> cells(textColumns + 2, std::vector<char>(blockRows * textBytes));
     std::vector<std::vector<SQLLEN>> lengths(textColumns + 2, std::vector<SQLLEN>(blockRows));
@@ -97,7 +97,7 @@ int main() {
     SQLLEN bytes = 0;
     std::size_t rows = 0;
     const double reference = best([&] { bytes = bareLoop(bare.get()); });
-    const double ours = best([&] { rows = connection->query(select).rowCount(); });
+    const double ours = best([&] { rows = connection->query(statementText).rowCount(); });
     SQLDisconnect(bare.get());
     std::printf(
         "fetch of %zu rows x %d columns over ODBC (%ld bytes): bare loop %.3f s, ours %.3f s,"
