@@ -66,8 +66,10 @@ enum class LiteralKind : std::uint8_t {
 };
 
 /// index counts the literals of the parsed text from 0, in the order they stand; the Shape of the
-/// same text holds their values under the same index. text is the value: quotes stripped and
-/// undoubled for strings, digits for numbers (no sign), the 0x form for binary.
+/// same text holds their values under the same index; noLiteral marks a bare word that stands for its
+/// own text. text is the value: quotes stripped and
+/// undoubled for strings, digits for numbers (no sign, no $), the 0x form for binary.
+inline constexpr std::uint32_t noLiteral = 0xFFFFFFFF;
 struct Literal
 {
     LiteralKind kind = LiteralKind::String;

@@ -103,6 +103,7 @@ struct Query
     std::vector<OrderItem> orderBy;
     ExprPtr offset; // OFFSET n ROWS, may be null
     ExprPtr fetch;  // FETCH NEXT n ROWS ONLY, may be null
+    std::uint16_t height = 1;
 };
 /// OPTION (...): "RECOMPILE", "OPTIMIZE FOR UNKNOWN", "MAXRECURSION 100", upper case.
 using QueryHints = std::vector<std::string>;

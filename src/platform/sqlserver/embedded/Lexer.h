@@ -87,7 +87,7 @@ constexpr LiteralKind literalKind(TokenKind kind) {
     return static_cast<LiteralKind>(static_cast<int>(kind) - static_cast<int>(TokenKind::String));
 }
 /// What a token stands for: strings and quoted names without their quotes, undoubled; a parameter
-/// without its colon; everything else as written.
+/// without its colon, money without its sign; everything else as written.
 std::string tokenValue(const Token& token);
 
 /// Throws a Fault with the server's number, wording and line: 102 near something that is no T-SQL,
@@ -103,6 +103,7 @@ public:
 
 private:
     void skipBlanks();
+    void passLine();
     void skipBlockComment();
     Token make(TokenKind kind, std::uint32_t length, Op op = Op::None);
     Token word();

@@ -23,7 +23,8 @@ struct Batch
 
 /// Throws a Fault: 102 and 156 near what is not understood, 105 and 113 for what is not closed, 191
 /// when nested too deeply, 4145 for a value where a condition must stand, each with line and column.
-/// firstLine is the line of the text's first character within its batch.
-Batch parse(std::string_view text, std::uint32_t firstLine = 1);
+/// firstLine is the line of the text's first character within its batch; beginsBatch tells that no
+/// statement stands before it there, which is where EXEC may be left out and CREATE PROCEDURE stand.
+Batch parse(std::string_view text, std::uint32_t firstLine = 1, bool beginsBatch = true);
 
 } // namespace velcro::sql::tsql

@@ -28,13 +28,14 @@ struct LiftedLiteral
 
 /// key is the text with every literal replaced by a place holder of its kind and with blanks and
 /// comments folded; the case of names is kept. text is the part of the batch it was made from,
-/// firstLine the batch's line it begins on.
+/// firstLine the batch's line it begins on, beginsBatch whether nothing stands before it.
 struct Shape
 {
     std::string key;
     std::vector<LiftedLiteral> literals;
     std::string_view text;
     std::uint32_t firstLine = 1;
+    bool beginsBatch = true;
 };
 
 /// Cuts a batch into the pieces that are compiled and kept each on its own: a run of rows statements
@@ -52,6 +53,7 @@ private:
     std::string_view batch_;
     Lexer lexer_;
     Token ahead_;
+    bool first_ = true;
 };
 
 /// Keeps what was compiled from shapes; the longest unused goes first. Compiled is any movable type;
