@@ -143,6 +143,10 @@ constexpr Row rows[] = {
      "or LIKE operator."},
     {310, 15, 1,
      "The value %1 specified for the MAXRECURSION option exceeds the allowed maximum of 32767."},
+    {321, 15, 1,
+     "\"%1\" is not a recognized table hints option. If it is intended as a parameter to a "
+     "table-valued function or to the CHANGETABLE function, ensure that your database "
+     "compatibility mode is set to 90."},
     {402, 16, 1, "The data types %1 and %2 are incompatible in the %3 operator."},
     {403, 16, 1, "Invalid operator for data type. Operator equals %1, type equals %2."},
     {421, 16, 1, "The %1 data type cannot be selected as DISTINCT because it is not comparable."},
@@ -374,9 +378,9 @@ constexpr Row rows[] = {
      "same row of the target table multiple times. Refine the ON clause to ensure a target row "
      "matches at most one source row, or use the GROUP BY clause to group the source rows."},
     {9002, 17, 2, "The transaction log for database '%1' is full due to '%2'."},
+    {10713, 15, 1, "A MERGE statement must be terminated by a semi-colon (;)."},
     {10714, 15, 1,
      "An action of type '%1' cannot appear more than once in a '%2' clause of a MERGE statement."},
-    {10716, 15, 1, "A MERGE statement must be terminated by a semi-colon (;)."},
     {10742, 15, 1, "The offset specified in a OFFSET clause may not be negative."},
     {10744, 15, 1, "The number of rows provided for a FETCH clause must be greater then zero."},
     {15225, 11, 1,
