@@ -15,9 +15,10 @@
 #include <vector>
 
 struct sqlite3;
-struct sqlite3_stmt;
 
 namespace velcro::sql::tsql {
+
+class SqliteQuery;
 
 /// A default constraint. `text` is T-SQL in the server's bracketed form, ('') or ((0)); `sqlite` the
 /// expression that stands in the file's own DEFAULT clause.
@@ -28,28 +29,36 @@ struct DefaultDef
     std::string text;
     std::string sqlite;
     bool systemNamed = true;
+
+    bool operator==(const DefaultDef&) const = default;
 };
 
 struct IdentityDef
 {
     std::int64_t seed = 1;
     std::int64_t increment = 1;
+
+    bool operator==(const IdentityDef&) const = default;
 };
 
 struct ColumnDef
 {
-    int id = 0; // column_id: 1 upward, never used again in its table
+    int id = 0; // column_id: 1 upward
     std::string name;
     Type type;
     bool nullable = true;
     std::optional<IdentityDef> identity;
     std::optional<DefaultDef> defaultValue;
+
+    bool operator==(const ColumnDef&) const = default;
 };
 
 struct KeyColumn
 {
     int columnId = 0;
     bool descending = false;
+
+    bool operator==(const KeyColumn&) const = default;
 };
 
 /// An index, or the key constraint that stands on one.
@@ -66,6 +75,7 @@ struct IndexDef
 
     bool isConstraint() const { return constraintId != 0; }
     bool covers(int columnId) const;
+    bool operator==(const IndexDef&) const = default;
 };
 
 struct TableDef
@@ -105,6 +115,10 @@ public:
 
     const std::string& databaseName() const { return databaseName_; }
     sqlite3* database() const { return database_; }
+    /// database.dbo.Name, as messages have it.
+    std::string fullName(std::string_view name) const {
+        return databaseName_ + ".dbo." + std::string(name);
+    }
 
     /// Takes up what other connections have changed; cheap when nothing has. Call before a batch is
     /// translated. True when anything is different from before.
@@ -143,33 +157,39 @@ private:
     {
         std::string name;
         std::string kind;
-        int parent = 0;
+        int table = 0; // on which a constraint stands
     };
 
-    void createTables();
+    bool hasTables() const;
     void load();
-    void loadTables();
+    void loadObjects();
     void loadColumns();
     void loadIndexes();
-    void writeTable(const TableDef& table);
-    void eraseTable(int id);
-    void bumpVersion();
-    void indexNames();
-    std::int64_t storedVersion();
+    void writeObjects(const TableDef& table, const TableDef* before);
+    void writeColumns(const TableDef& table, const TableDef* before);
+    void writeIndexes(const TableDef& table);
+    void writeObject(int id, std::string_view name, std::string_view kind, int parent,
+                     std::string_view definition);
+    void addObject(int id, const std::string& name, std::string_view kind, int table = 0);
+    void addTableObjects(const TableDef& table);
+    void forgetObjects(const TableDef& table);
+    void changed();
+    std::int64_t storedVersion() const;
     std::int64_t dataVersion();
 
     sqlite3* database_;
     std::string databaseName_;
     std::int64_t version_ = 0;
+    std::int64_t stored_ = 0; // the file's version, which a rollback takes back
     std::int64_t dataVersion_ = -1;
     int lastObjectId_ = 0;
     bool changed_ = false;
-    bool empty_ = false; // a read-only file without a catalogue
+    bool hasTables_ = false; // else: a read-only file without a catalogue
     std::map<int, std::unique_ptr<TableDef>> tables_;
-    std::map<int, std::pair<std::string, RoutineDef>> routines_; // kind, definition
-    std::unordered_map<std::string, int> byName_;                // folded name: object id
+    std::map<int, RoutineDef> routines_;
+    std::unordered_map<std::string, int> byName_; // folded name: object id
     std::unordered_map<int, Object> objects_;
-    sqlite3_stmt* dataVersionStatement_ = nullptr;
+    std::unique_ptr<SqliteQuery> dataVersionQuery_;
 };
 
 /// The name of an index in SQLite, where index names share one space: Table.Index.
@@ -177,6 +197,8 @@ std::string sqliteIndexName(const TableDef& table, const IndexDef& index);
 /// CREATE TABLE as it stands in the file: INTEGER PRIMARY KEY AUTOINCREMENT for an identity column,
 /// the collation on text, NOT NULL and DEFAULT; no lengths, which the catalogue keeps.
 std::string sqliteTableText(const TableDef& table, std::string_view name);
+/// One column of it.
+std::string sqliteColumnText(const ColumnDef& column);
 /// "name" in SQLite's quotes.
 std::string quoteName(std::string_view name);
 
@@ -191,6 +213,15 @@ struct SystemView
 
 /// std::nullptr for a name that is none. `schema` may be blank, "sys" or "dbo" for the older tables.
 const SystemView* systemView(std::string_view schema, std::string_view name);
+
+/// The last identity value a table gave; none before its first row.
+std::optional<std::int64_t> lastIdentity(sqlite3* database, const TableDef& table);
+
+/// system_type_id of sys.types: 56 for int, 231 for nvarchar; and back.
+int systemTypeId(TypeId id);
+std::optional<TypeId> typeBySystemId(int id);
+/// max_length of sys.columns: bytes, -1 for (max).
+int maxBytes(const Type& type);
 
 /// True for names of the file's own tables (sys$..., sqlite_...), which user statements do not see.
 bool isHiddenTable(std::string_view name);

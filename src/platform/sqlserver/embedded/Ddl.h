@@ -4,12 +4,15 @@
 
 #include "platform/sqlserver/embedded/Catalogue.h"
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace velcro::sql::tsql {
+
+class FunctionHost;
 
 /// A DEFAULT as it is written in a statement.
 struct DefaultSpec
@@ -58,8 +61,10 @@ struct IndexSpec
 class Ddl
 {
 public:
-    explicit Ddl(Catalogue& catalogue)
-        : catalogue_(catalogue) {}
+    /// Conversions of stored values raise their faults through the host.
+    Ddl(Catalogue& catalogue, FunctionHost& host)
+        : catalogue_(catalogue)
+        , host_(host) {}
 
     /// 2714, 2705, 8110, 8111.
     void createTable(std::string_view name, const std::vector<ColumnSpec>& columns,
@@ -97,24 +102,40 @@ public:
                     const std::vector<ColumnSpec>& columns);
     void dropView(std::string_view name, bool ifExists);
 
-    /// sp_rename of a table, a column or an index. 15225, 15335.
-    void rename(std::string_view object, std::string_view newName, std::string_view kind);
-
 private:
     TableDef tableForAlter(std::string_view name) const;
     void requireFreeName(std::string_view name) const;
+    bool hasRows(const TableDef& table) const;
+    void run(const std::string& sqlite, std::initializer_list<std::string_view> values = {}) const;
+
     ColumnDef columnFrom(const TableDef& table, const ColumnSpec& spec);
+    void requireIdentity(const TableDef& table, const ColumnDef& column) const;
     DefaultDef defaultFrom(const TableDef& table, const ColumnDef& column, const DefaultSpec& spec);
-    IndexDef keyFrom(TableDef& table, const KeySpec& key);
-    void makeIndex(const TableDef& table, const IndexDef& index);
     void addColumn(TableDef& table, const ColumnSpec& spec);
+    void addFilled(const TableDef& table, const ColumnDef& column, const std::string& value);
+    void requireNoNulls(const TableDef& table, const ColumnDef& column) const;
     void convertColumn(const TableDef& table, const ColumnDef& from, const ColumnDef& to);
+    void dropColumn(TableDef& table, const ColumnDef& column);
+    void writeValues(const TableDef& table, const ColumnDef& column);
+    void startIdentity(const TableDef& table);
+
+    IndexDef keyFrom(TableDef& table, const KeySpec& key);
+    static std::vector<KeyColumn> keyColumns(const TableDef& table, std::string_view index,
+                                             const std::vector<KeyColumnSpec>& columns);
+    static const IndexDef* clusteredIndex(const TableDef& table);
+    static bool isIdentityKey(const TableDef& table, const IndexDef& index);
+    static void makeKeyColumnsNotNull(TableDef& table, const std::vector<ColumnSpec>& specs,
+                                      const KeySpec& key);
+    void addIndex(TableDef& table, IndexDef index);
+    void makeIndex(const TableDef& table, const IndexDef& index);
+    void refuseDuplicates(const TableDef& table, const IndexDef& index) const;
+    void removeIndex(TableDef& table, const IndexDef& index);
+
     void rewriteSchema(const TableDef& table);
     void rebuild(const TableDef& from, const TableDef& to);
-    bool hasRows(const TableDef& table) const;
-    void run(const std::string& sqlite) const;
 
     Catalogue& catalogue_;
+    FunctionHost& host_;
 };
 
 } // namespace velcro::sql::tsql

@@ -23,6 +23,7 @@ enum class ResultRule {
     Common,        // COALESCE, IIF, CHOOSE: by precedence over the value arguments
     TextOfFirst,   // UPPER, SUBSTRING, REPLACE: varchar or nvarchar as the first argument is
     NumberOfFirst, // ABS, ROUND, CEILING: int, decimal or float as the first; text becomes float
+    DateOfLast,    // DATEADD: the last argument's type; text becomes datetime
 };
 
 /// What an argument is converted to before the call; the emitter does it.
@@ -84,7 +85,7 @@ struct SessionFacts
 class FunctionHost
 {
 public:
-    FunctionHost(sqlite3* database, const Catalogue& catalogue, SessionFacts facts);
+    FunctionHost(const Catalogue& catalogue, SessionFacts facts);
 
     SessionFacts& facts() { return facts_; }
     const SessionFacts& facts() const { return facts_; }

@@ -157,7 +157,7 @@ Value convert(Value value, const Type& from, const Type& to, int style = 0);
 /// Where an assignment stores to; the names stand in the server's messages.
 struct Target
 {
-    std::string_view table;  // as created, without schema
+    std::string_view table;  // database.dbo.Table, see Catalogue::fullName()
     std::string_view column; // as created
 };
 
