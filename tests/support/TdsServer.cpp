@@ -245,6 +245,32 @@ TdsReply TdsServer::answerTransaction(const std::string& body) {
     return (another ? reply.transactionChange(8, true) : reply).done();
 }
 
+TdsReply TdsServer::answerRequest(int type, const std::string& body) {
+    TdsReply reply;
+    switch (type) {
+    case PreLogin:
+        reply.bytes_ = preLoginAnswer;
+        return reply;
+    case Login7:
+        return login_ == Login::Accept ? reply.acceptLogin()
+                                       : reply.error(18456, "Login failed for user 'till'.", 14)
+                                             .done(-1, false, true)
+                                             .cut();
+    case Transaction:
+        return answerTransaction(body);
+    case SqlBatch: {
+        const auto batch = batchText(body);
+        transactionIsOver = transactionIsOver && batch != "BEGIN TRANSACTION";
+        return answer_(batch);
+    }
+    default: {
+        const std::lock_guard lock(callMutex_);
+        lastCall_ = body;
+        return reply.done();
+    }
+    }
+}
+
 void TdsServer::serveClient(int client) {
     while (login_ != Login::CutAtOnce) {
         pollfd waits[] = {{client, POLLIN, 0}, {wake_[0], POLLIN, 0}};
@@ -256,22 +282,7 @@ void TdsServer::serveClient(int client) {
         if (login_ == Login::NeverAnswer) {
             continue;
         }
-        TdsReply reply;
-        if (request->type == PreLogin) {
-            reply.bytes_ = preLoginAnswer;
-        } else if (request->type == Login7 && login_ == Login::Accept) {
-            reply.acceptLogin();
-        } else if (request->type == Login7) {
-            reply.error(18456, "Login failed for user 'till'.", 14).done(-1, false, true).cut();
-        } else if (request->type == Transaction) {
-            reply = answerTransaction(request->body);
-        } else if (request->type == SqlBatch) {
-            const auto batch = batchText(request->body);
-            transactionIsOver = transactionIsOver && batch != "BEGIN TRANSACTION";
-            reply = answer_(batch);
-        } else {
-            reply.done();
-        }
+        const TdsReply reply = answerRequest(request->type, request->body);
         send(client, reply.bytes_, !reply.cut_ || login_ == Login::Refuse);
         if (reply.cut_) {
             return;

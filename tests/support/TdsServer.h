@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <thread>
 
@@ -61,13 +62,22 @@ public:
     std::atomic<bool> cutAtTransactionEnd = false;
     std::atomic<bool> transactionIsOver = false; // rollback is refused with 3903
 
+    /// The bytes of the last procedure call, which is how a batch with parameters comes.
+    std::string lastCall() const {
+        const std::lock_guard lock(callMutex_);
+        return lastCall_;
+    }
+
 private:
     void serve();
     void serveClient(int socket);
+    TdsReply answerRequest(int type, const std::string& body);
     TdsReply answerTransaction(const std::string& body);
 
     Answer answer_;
     Login login_;
+    mutable std::mutex callMutex_;
+    std::string lastCall_;
     int listener_ = -1;
     int wake_[2] = {-1, -1};
     int port_ = 0;

@@ -1,4 +1,5 @@
 // The program itself, run as a process with a command line, files and a pipe.
+#include "support/TdsServer.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -111,6 +112,21 @@ TEST_F(VelsqlTest, wrongCommandLinesAreAnsweredWithTheUsage) {
         EXPECT_NE(outcome.problems.find("usage: velsql"), std::string::npos);
     }
     EXPECT_EQ(velsql({"--help"}).status, 0);
+}
+
+TEST_F(VelsqlTest, aServerIsReachedThroughADriverThatWasNeverRegistered) {
+    const velcro::test::TdsServer server([](const std::string& batch) {
+        velcro::test::TdsReply reply;
+        return batch == "PRINT\n" ? reply.information(0, "hello").done()
+               : batch == "bad\n" ? reply.error(102, "Incorrect syntax.", 15).done(-1, false, true)
+                                  : reply.column("s").row("Größe").done(1);
+    });
+    const auto outcome =
+        velsql({"-S", server.address(), "-d", "suite", "-U", "till"}, "PRINT\nGO\nbad\nGO\nSELECT",
+               "ODBCSYSINI=" + folder.path().string());
+    EXPECT_EQ(outcome.problems, "");
+    EXPECT_EQ(outcome.out, "hello\nMsg 102, Level 15, State 1: Incorrect syntax.\ns\nGröße\n");
+    EXPECT_EQ(outcome.status, 1);
 }
 
 TEST_F(VelsqlTest, whatKeepsItFromWorkingIsToldAndNothingRuns) {

@@ -1,4 +1,5 @@
 // The ODBC end through FreeTDS against a server that fails, talks and breaks off at will.
+#include "platform/sqlserver/Utf16.h"
 #include "platform/sqlserver/odbc/OdbcConnection.h"
 #include "support/TdsServer.h"
 
@@ -127,6 +128,33 @@ TEST_F(OdbcServerTest, literalsArriveNationalAndWhole) {
     connect();
     EXPECT_EQ(connection->query("echo 'Größe' + '漢😀' + 'plain'").text(0, 0),
               "N'Größe' + N'漢😀' + 'plain'");
+}
+
+TEST_F(OdbcServerTest, parametersAreSentWhole) {
+    connect();
+    const auto sent = [this](const std::string& bytes) {
+        return server.lastCall().find(bytes) != std::string::npos;
+    };
+    const auto wide = [](const std::string& text) {
+        const auto units = toUtf16(text);
+        return std::string(reinterpret_cast<const char*>(units.data()), units.size() * 2);
+    };
+    std::string picture(3 << 20, '\0');
+    for (std::size_t i = 0; i < picture.size(); ++i) {
+        picture[i] = static_cast<char>(i * 31 >> 4);
+    }
+    std::string text; // beyond the 4,000 characters of the short types
+    for (int i = 0; i < 2000; ++i) {
+        text += "Größe " + std::to_string(i) + " 漢😀 ";
+    }
+    const Parameter parameters[] = {
+        {"Text", text}, {"Picture", Blob{picture}}, {"Name", std::string("Ω")}, {"None", {}}};
+    connection->execute("UPDATE t SET a = :Text, b = :Picture, c = :Name, d = :None", parameters);
+    EXPECT_TRUE(sent(wide(text)));
+    EXPECT_TRUE(sent(picture));
+    EXPECT_TRUE(sent(wide("Ω")));
+    EXPECT_TRUE(sent(wide(", d = NULL")));
+    EXPECT_TRUE(sent(wide("@P1 NVARCHAR(MAX),@P2 VARBINARY(MAX),@P3 NVARCHAR(4000)")));
 }
 
 TEST_F(OdbcServerTest, aCutConnectionIsToldFromAFailedStatement) {
