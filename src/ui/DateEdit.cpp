@@ -47,12 +47,14 @@ bool DateEdit::isAcceptable() const {
     return text().trimmed().isEmpty() || date().isValid();
 }
 
-void DateEdit::tidy() {
+bool DateEdit::tidy() {
     if (const auto typed = date(); typed.isValid()) {
         setDate(typed);
     } else if (!isAcceptable()) {
         emit dateRefused(text());
+        return false;
     }
+    return true;
 }
 
 void DateEdit::focusOutEvent(QFocusEvent* event) {

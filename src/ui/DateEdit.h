@@ -20,6 +20,8 @@ public:
     /// Invalid when the text is no date.
     QDate date() const;
     void setDate(const QDate& date);
+    /// What leaving the edit does; false after a refusal.
+    bool tidy();
     /// Opens the calendar below the edit.
     void pickDate();
 
@@ -29,9 +31,6 @@ signals:
 protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void tidy();
 };
 
 } // namespace velcro::ui

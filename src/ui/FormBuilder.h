@@ -29,7 +29,7 @@ struct EditOptions
     bool upperCase = false;
     bool readOnly = false;
     bool password = false;
-    QString emptyText;
+    QString emptyText = {};
 };
 
 /// Rows go below each other in the group that was begun last, or, with no group, in one without a

@@ -17,7 +17,7 @@ namespace velcro::ui {
 struct GridColumn
 {
     QString field;   // column of the result; case does not count
-    QString caption; // blank: the field's name
+    QString caption = {}; // blank: the field's name
     bool visible = true;
     /// Turns the stored text into what is shown; none shows it as stored.
     QString (*display)(const QString& stored) = nullptr;

@@ -1,0 +1,79 @@
+#include "lookups/CRO910.h"
+
+#include "data/DataUVEL.h"
+#include "data/Session.h"
+#include "data/StatementText.h"
+
+namespace {
+
+QString statusText(const QString& stored) {
+    static const QMap<QString, QString> texts = {
+        {QStringLiteral("0"), QStringLiteral("Open")},
+        {QStringLiteral("2"), QStringLiteral("Marked Return")},
+        {QStringLiteral("5"), QStringLiteral("Captured on IBT")},
+        {QStringLiteral("9"), QStringLiteral("Invoiced")},
+        {QStringLiteral("D"), QStringLiteral("Deleted")},
+    };
+    return texts.value(stored, stored);
+}
+
+ListFacts serialFacts() {
+    ListFacts facts;
+    facts.unit = QStringLiteral("CRO910");
+    facts.caption = QStringLiteral("Serial Tracking: Serial Number Selection");
+    // The number is a sibling screen's and stays so.
+    facts.errorNo = QStringLiteral("920-001");
+    facts.errorText = QStringLiteral("SQL Error on Table: STKSerialMst :-");
+    facts.columns = {
+        {"Status", {}, true, statusText},   {"SerialNo", "Serial No."}, {"StockCode", "Stock Code"},
+        {"Description1", "Description #1"}, {"RecID", {}, false},
+    };
+    facts.searchFragments = {
+        QStringLiteral("AND T0.[StockCode] LIKE '%"),
+        QStringLiteral(" OR T0.[LinkCode] LIKE '%"),
+        QStringLiteral(" OR T0.[SerialNo] LIKE '%"),
+        QStringLiteral(" OR T1.[Description1] LIKE '%"),
+    };
+    facts.searchEnd = QStringLiteral(" ORDER BY T0.[SerialNo] DESC");
+    return facts;
+}
+
+} // namespace
+
+TfrmCRO910::TfrmCRO910(QWidget* parent)
+    : SelectionScreen(serialFacts(), gData->Velmara, parent) {}
+
+QStringList TfrmCRO910::statementLines(const QString& xSQL) const {
+    return {
+        "SELECT TOP(1000) T0.RecID, T0.Status, T0.SerialNo, T0.StockCode, T0.LinkCode, "
+        "T1.Description1",
+        "  FROM STKSerialMst T0",
+        " INNER JOIN STKMaster T1",
+        "    ON T1.CO = T0.CO",
+        "   AND T1.Branch = T0.Branch",
+        "   AND T1.StockCode = T0.StockCode",
+        "   AND T1.LinkCode = T0.LinkCode",
+        " WHERE T0.CO = " + QuotedStr(gCO),
+        "   AND T0.Branch = " + QuotedStr(gBranch),
+        xSQL.isEmpty() ? QStringLiteral(" ORDER BY T0.SerialNo DESC") : xSQL,
+    };
+}
+
+void TfrmCRO910::takeRecord() {
+    xRecID = query().FieldByName(QStringLiteral("RecID")).AsInteger();
+    xStatus = field("Status");
+    xSerialNo = field("SerialNo");
+    xStockCode = field("StockCode");
+    xLinkCode = field("LinkCode");
+    xDescription1 = field("Description1");
+}
+
+void TfrmCRO910::nothingToTake() {
+    reject();
+}
+
+void TfrmCRO910::searchEntered() {
+    if (!query().Eof()) {
+        btnSearch->click();
+    }
+}
