@@ -16,7 +16,7 @@ namespace velcro::ui {
 /// A column as the screen declares it.
 struct GridColumn
 {
-    QString field;   // column of the result; case does not count
+    QString field;        // column of the result; case does not count
     QString caption = {}; // blank: the field's name
     bool visible = true;
     /// Turns the stored text into what is shown; none shows it as stored.
