@@ -2,6 +2,7 @@
 // else, first to last below it, the search panel that drops in above it.
 #include "application/ListScreen.h"
 #include "application/ScreenServices.h"
+#include "ui/Icons.h"
 #include "ui/Theme.h"
 
 #include <QBoxLayout>
@@ -48,6 +49,7 @@ void ListScreen::makePanel() {
     makeGrid();
     auto* right = new QVBoxLayout;
     right->setContentsMargins(margin, margin, margin, margin);
+    right->setSpacing(margin);
     if (!facts_.searchFragments.isEmpty()) {
         makeSearchPanel();
         right->addWidget(pnlSearch);
@@ -129,6 +131,7 @@ QHBoxLayout* ListScreen::makeNavigation() {
         {"btnLast", "Last", &RowGrid::last},
     };
     auto* row = new QHBoxLayout;
+    row->setSpacing(margin);
     for (const auto& step : steps) {
         auto* button =
             newButton(QString::fromLatin1(step.name), QString::fromLatin1(step.caption), {});
@@ -179,6 +182,7 @@ void ListScreen::setMainButton(KeyButton* button) {
 void ListScreen::addSearch(const QString& keyCap) {
     auto* button = addFunction(QStringLiteral("btnLookup"), QStringLiteral("&Search"), {});
     button->setAccessibleName(QStringLiteral("Search"));
+    button->setIcon(velcro::ui::icon(QStringLiteral("search")));
     button->setToolTip(QStringLiteral("Search [%1]").arg(keyCap));
     connectHandler(button, &KeyButton::clicked, this, [this] { btnLookupClick(); });
     btnSearch->setKeyCap(keyCap);

@@ -206,11 +206,16 @@ QToolButton* FormBuilder::buttonAfter(QLineEdit* edit, const QString& name,
     button->setFocusPolicy(Qt::NoFocus);
     auto* pair = new QHBoxLayout;
     pair->setSpacing(2);
+    int row = 0;
+    int column = 0;
+    int rowSpan = 0;
+    int columnSpan = 0;
+    grid_->getItemPosition(grid_->indexOf(edit), &row, &column, &rowSpan, &columnSpan);
     grid_->removeWidget(edit);
     pair->addWidget(edit);
     pair->addWidget(button);
     pair->addStretch(1);
-    grid_->addLayout(pair, row_, column_ + 1);
+    grid_->addLayout(pair, row, column);
     return button;
 }
 

@@ -57,7 +57,7 @@ public:
     QLabel* value(const QString& name, const QString& label, const QString& text = {});
     /// Any other control; a blank label lets it take the label's room too.
     void control(QWidget* widget, const QString& name, const QString& label);
-    /// A button at the right end of an edit that was declared last, named btn + the edit's name.
+    /// A button at the right end of an edit of this group, named btn + the edit's name.
     QToolButton* browseButton(QLineEdit* edit);
 
     /// Room below the last group that grows with the window.

@@ -59,7 +59,7 @@ void RowGrid::showOnlyVisibleColumns() {
 
 void RowGrid::setRows(const sql::RowSet& rows) {
     model_.setRows(rows);
-    if (!columnsFitted_ && isVisible()) {
+    if (!columnsFitted_ && isVisible() && rows.rowCount() > 0) {
         fitColumns();
     }
     first();

@@ -1,0 +1,110 @@
+#include "support/ScreenChecks.h"
+
+#include "ui/RowGrid.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+namespace {
+
+QString described(const QWidget& widget) {
+    return QString::fromLatin1(widget.metaObject()->className()) + QLatin1Char(' ') +
+           widget.objectName();
+}
+
+bool isControl(QAccessible::Role role) {
+    switch (role) {
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::ComboBox:
+    case QAccessible::EditableText:
+    case QAccessible::SpinBox:
+    case QAccessible::Table:
+    case QAccessible::List:
+    case QAccessible::PageTabList:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Parts that Qt makes for itself inside a control, such as the corner button of a table.
+bool isPartOfControl(const QWidget& widget) {
+    return widget.objectName().startsWith(QLatin1String("qt_")) ||
+           qobject_cast<const QAbstractScrollArea*>(widget.parentWidget()) != nullptr ||
+           qobject_cast<const QHeaderView*>(&widget) != nullptr;
+}
+
+bool textFits(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        return label->wordWrap() || label->width() >= label->sizeHint().width();
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->width() >= button->sizeHint().width() &&
+               button->height() >= button->sizeHint().height();
+    }
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
+        return edit->height() >= edit->sizeHint().height();
+    }
+    if (const auto* grid = qobject_cast<const velcro::ui::RowGrid*>(&widget)) {
+        for (int i = 0; i < grid->horizontalHeader()->count(); ++i) {
+            if (!grid->isColumnHidden(i) &&
+                grid->columnWidth(i) < grid->horizontalHeader()->sectionSizeHint(i)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+QStringList namelessControls(QWidget& screen) {
+    QStringList nameless;
+    for (auto* widget : screen.findChildren<QWidget*>()) {
+        auto* spoken = QAccessible::queryAccessibleInterface(widget);
+        if (widget->isVisible() && !isPartOfControl(*widget) && spoken != nullptr &&
+            isControl(spoken->role()) && spoken->text(QAccessible::Name).trimmed().isEmpty()) {
+            nameless << described(*widget);
+        }
+    }
+    return nameless;
+}
+
+QStringList clippedControls(QWidget& screen) {
+    QStringList clipped;
+    for (auto* widget : screen.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || isPartOfControl(*widget)) {
+            continue;
+        }
+        if (!textFits(*widget)) {
+            clipped << described(*widget) + QStringLiteral(": text is cut off");
+        }
+        if (!widget->parentWidget()->rect().contains(widget->geometry())) {
+            clipped << described(*widget) + QStringLiteral(": sticks out of its parent");
+        }
+        for (auto* sibling : widget->parentWidget()->findChildren<QWidget*>(
+                 QString(), Qt::FindDirectChildrenOnly)) {
+            if (sibling > widget && sibling->isVisible() && !sibling->isWindow() &&
+                !isPartOfControl(*sibling) && sibling->geometry().intersects(widget->geometry())) {
+                clipped << described(*widget) + QStringLiteral(" lies over ") + described(*sibling);
+            }
+        }
+    }
+    return clipped;
+}
+
+void keepPicture(QWidget& screen, const QString& name) {
+    const auto folder = qEnvironmentVariable("VELCRO_PICTURES");
+    if (!folder.isEmpty() && QDir().mkpath(folder)) {
+        screen.grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
+    }
+}

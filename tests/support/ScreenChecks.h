@@ -1,0 +1,17 @@
+// What must hold of every screen: controls have names for those who cannot see them, and nothing is
+// cut off.
+#pragma once
+
+#include <QStringList>
+
+class QWidget;
+
+/// Controls of the visible screen that say no name through the accessibility interface.
+QStringList namelessControls(QWidget& screen);
+
+/// Buttons, labels and headings of the visible screen whose text does not fit, and controls that
+/// stick out of their parent or lie over each other.
+QStringList clippedControls(QWidget& screen);
+
+/// Saves the screen's picture when the environment names a folder in VELCRO_PICTURES.
+void keepPicture(QWidget& screen, const QString& name);
