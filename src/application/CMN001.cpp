@@ -46,8 +46,8 @@ TfrmCMN001::TfrmCMN001(const QString& errorNo, const QString& message, const QSt
     auto* edMessage =
         addText(QStringLiteral("edMessage"), QStringLiteral("\r") + message, tr("Error"));
     edMessage->setMinimumHeight(60);
-    addFact(QStringLiteral("lblLogMsg"), {},
-            gErrorLogMsg.trimmed().isEmpty() ? QString() : gErrorLogMsg);
+    const bool hasLog = !gErrorLogMsg.trimmed().isEmpty();
+    addFact(QStringLiteral("lblLogMsg"), {}, hasLog ? gErrorLogMsg : QString())->setVisible(hasLog);
     addComments(gErrorComment);
     auto* btnAppTerminate =
         addButton(QStringLiteral("btnAppTerminate"), tr("Terminate Application"), {});

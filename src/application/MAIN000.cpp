@@ -77,6 +77,7 @@ void TfrmMAIN000::showEvent(QShowEvent* event) {
 
 void TfrmMAIN000::FormShow() {
     sfg_SetCursor(QStringLiteral("BUSY"));
+    showKeyCaps();
     bool signedIn = false;
     guarded([this, &signedIn] { signedIn = start_(); });
     if (closed_) {
@@ -88,6 +89,14 @@ void TfrmMAIN000::FormShow() {
     }
     guarded([this] { finishStart(); });
     sfg_SetCursor(QStringLiteral("RESET"));
+    emit menuIsLive();
+}
+
+// The pictures come from a module that is made after this form.
+void TfrmMAIN000::showKeyCaps() {
+    for (const Group& group : groups_) {
+        sfg_ImageKeybd32(*group.button, QLatin1String(group.keyCap));
+    }
 }
 
 void TfrmMAIN000::finishStart() {
@@ -112,14 +121,10 @@ void TfrmMAIN000::endFailedStart() {
 }
 
 void TfrmMAIN000::Initialize_MainForm() {
-    showFacts();
-    showCompanyLogo();
-    try {
-        showBranchBand();
-    } catch (...) {
-        // The menu goes live whatever the branch's colour is called.
-        velcro::ui::displayCurrentException();
-    }
+    // The menu goes live whatever is wrong with a logo or with the name of a colour.
+    guarded([this] { showFacts(); });
+    guarded([this] { showCompanyLogo(); });
+    guarded([this] { showBranchBand(); });
     Set_ReportsMenu(false);
     Set_ConfigurationMenu(false);
     Set_MainMenu(true);

@@ -38,6 +38,10 @@ public:
     /// 0, or 1 after a start that failed or was turned down.
     int exitStatus() const { return exitStatus_; }
 
+signals:
+    /// The user is signed in and the menu takes work.
+    void menuIsLive();
+
 protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -52,6 +56,7 @@ private:
         Menu menu;
         QPushButton* button;
         QAction* action;
+        const char* keyCap;
     };
 
     // What the form is made of (MAIN000Menu.cpp).
@@ -69,6 +74,7 @@ private:
     QSize tileSize() const;
 
     void FormShow();
+    void showKeyCaps();
     void finishStart();
     void endFailedStart();
     void FormPaint();

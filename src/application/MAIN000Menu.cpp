@@ -1,5 +1,4 @@
 #include "application/MAIN000.h"
-#include "application/SysFuncGlobal.h"
 #include "application/SysStatusBar.h"
 #include "ui/Handler.h"
 
@@ -98,6 +97,9 @@ void TfrmMAIN000::makeBars() {
     for (int panel = 0; panel < 6; ++panel) {
         StatusBar1->addPanel(velcro::ui::psHTML, {}, panel == 5 ? -1 : 0);
     }
+    QFont facts = StatusBar1->font();
+    facts.setPointSizeF(9); // all six panels on the narrowest screen
+    StatusBar1->setFont(facts);
     for (auto* bar : {MessageStatusBar, StatusBar1}) {
         bar->setAutoFillBackground(true);
         bar->setFixedHeight(barHeight);
@@ -116,7 +118,6 @@ MenuTile* TfrmMAIN000::makeTile(const Entry& entry, const QSize& size) {
     auto* tile = new MenuTile(QLatin1String(entry.button), QLatin1String(entry.caption),
                               QLatin1String(entry.picture), size, this);
     tile->setToolTip(QLatin1String(entry.hint));
-    sfg_ImageKeybd32(*tile, QLatin1String(entry.keyCap));
     auto* action = new QAction(this);
     action->setObjectName(QLatin1String(entry.action));
     action->setShortcut(QKeySequence(entry.key));
@@ -127,7 +128,7 @@ MenuTile* TfrmMAIN000::makeTile(const Entry& entry, const QSize& size) {
             connect(action, &QAction::triggered, tile, &QPushButton::click);
         }
     }
-    groups_.push_back({entry.menu, tile, action});
+    groups_.push_back({entry.menu, tile, action, entry.keyCap});
     return tile;
 }
 

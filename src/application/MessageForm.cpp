@@ -42,6 +42,7 @@ QWidget* MessageForm::makeBand(const MessageLook& look) {
     picture->setPixmap(velcro::ui::icon(QLatin1String(look.picture), QColor(look.ink))
                            .pixmap(QSize(36, 36), devicePixelRatioF()));
     auto* title = new QLabel(QLatin1String(look.caption), band);
+    title->setPalette(colors);
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() + 3);
     font.setBold(true);

@@ -22,12 +22,13 @@ constexpr QRgb greyedInk = 0xff8a8f98;
 MenuTile::MenuTile(const QString& name, const QString& caption, const QString& picture,
                    const QSize& size, QWidget* parent)
     : QPushButton(caption, parent)
+    , size_(size)
     , picture_(velcro::ui::icon(picture, QColor(0xf4f6f9)))
     , greyedPicture_(velcro::ui::icon(picture, QColor(greyedInk))) {
     setObjectName(name);
     setAccessibleName(
         QString(caption).replace(QLatin1String("&&"), QLatin1String("&")).simplified());
-    setFixedSize(size);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAutoDefault(false);
     setAttribute(Qt::WA_Hover);
 }

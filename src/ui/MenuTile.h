@@ -16,10 +16,15 @@ public:
     MenuTile(const QString& name, const QString& caption, const QString& picture, const QSize& size,
              QWidget* parent);
 
+    // The style sheet's rules for buttons must not squeeze a tile.
+    QSize sizeHint() const override { return size_; }
+    QSize minimumSizeHint() const override { return size_; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QSize size_;
     QIcon picture_;
     QIcon greyedPicture_;
 };
