@@ -64,6 +64,7 @@ private:
     void findShape();
     bool matchesShape(std::string_view text) const;
     bool matchesFrom(std::string_view text, std::size_t step) const;
+    static std::size_t nextCandidate(const Step& step, std::string_view text, std::size_t at);
     static bool matchesOne(const Step& step, std::string_view text, std::size_t& at);
 
     std::vector<Step> steps_;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <optional>
 
 namespace velcro::sql::tsql {
@@ -32,6 +33,22 @@ bool equalFolded(const char* text, std::string_view folded) {
     return true;
 }
 
+bool isSmallLetter(char c) {
+    return c >= 'a' && c <= 'z';
+}
+
+// The first byte from `at` on that is `folded` in either case; `end` when there is none.
+const char* findFolded(const char* at, const char* end, char folded) {
+    if (!isSmallLetter(folded)) {
+        const auto* found = std::memchr(at, folded, static_cast<std::size_t>(end - at));
+        return found ? static_cast<const char*>(found) : end;
+    }
+    while (at != end && (*at | 0x20) != folded) {
+        ++at;
+    }
+    return at;
+}
+
 bool containsFolded(std::string_view text, std::string_view folded) {
     if (folded.empty()) {
         return true;
@@ -39,11 +56,10 @@ bool containsFolded(std::string_view text, std::string_view folded) {
     if (text.size() < folded.size()) {
         return false;
     }
-    const char first = folded.front();
     const auto rest = folded.substr(1);
-    const char* const last = text.data() + (text.size() - folded.size());
-    for (const char* at = text.data(); at <= last; ++at) {
-        if (lowered(*at) == first && equalFolded(at + 1, rest)) {
+    const char* const end = text.data() + (text.size() - rest.size());
+    for (const char* at = text.data(); (at = findFolded(at, end, folded.front())) != end; ++at) {
+        if (equalFolded(at + 1, rest)) {
             return true;
         }
     }
@@ -157,10 +173,10 @@ bool LikePattern::matchesFrom(std::string_view text, std::size_t step) const {
     while (true) {
         if (step < steps_.size() && steps_[step].kind == Kind::Run) {
             runStep = ++step;
-            runAt = at;
             if (step == steps_.size()) {
                 return true;
             }
+            runAt = at = nextCandidate(steps_[step], text, at);
             continue;
         }
         if (step == steps_.size() && at == text.size()) {
@@ -174,12 +190,26 @@ bool LikePattern::matchesFrom(std::string_view text, std::size_t step) const {
             return false;
         }
         nextCodePoint(text, runAt);
+        runAt = nextCandidate(steps_[runStep], text, runAt);
         at = runAt;
         step = runStep;
     }
 }
 
+// Where a run can end at the earliest: an ASCII character behind it is looked for byte by byte.
+std::size_t LikePattern::nextCandidate(const Step& step, std::string_view text, std::size_t at) {
+    if (step.kind != Kind::Character || step.character >= 0x80 || at >= text.size()) {
+        return at;
+    }
+    const char* const end = text.data() + text.size();
+    return static_cast<std::size_t>(
+        findFolded(text.data() + at, end, static_cast<char>(step.character)) - text.data());
+}
+
 bool LikePattern::matchesOne(const Step& step, std::string_view text, std::size_t& at) {
+    if (step.kind == Kind::Character && static_cast<unsigned char>(text[at]) < 0x80) {
+        return static_cast<char32_t>(lowered(text[at++])) == step.character;
+    }
     const char32_t c = foldCase(nextCodePoint(text, at));
     if (step.kind == Kind::Any) {
         return true;
