@@ -4,8 +4,6 @@
 #include "data/ReadGuard.h"
 #include "platform/seat/Clock.h"
 
-#include <QDate>
-
 QString sfg_GetServerDate() {
     return guardedRead("999999", "XXXXX", "SysFuncGlobal", "sfg_GetServerDate", [] {
         Statement wQuery(cData->VelmaraCommon);
@@ -19,13 +17,20 @@ QString sfg_GetServerDate() {
     });
 }
 
-QString sfg_Date(int xAddDays) {
-    const QString text = sfg_GetServerDate();
-    const QDate date = QDate::fromString(text, QStringLiteral("yyyy/MM/dd"));
+QString dateText(const QDate& date) {
+    return date.toString(QStringLiteral("yyyy/MM/dd"));
+}
+
+QDate StrToDate(const QString& text) {
+    const QDate date = QDate::fromString(text.trimmed(), QStringLiteral("yyyy/MM/dd"));
     if (!date.isValid()) {
         throw ConversionError(QStringLiteral("'%1' is not a valid date").arg(text));
     }
-    return date.addDays(xAddDays).toString(QStringLiteral("yyyy/MM/dd"));
+    return date;
+}
+
+QString sfg_Date(int xAddDays) {
+    return dateText(StrToDate(sfg_GetServerDate()).addDays(xAddDays));
 }
 
 QString sfg_Time() {

@@ -1,6 +1,7 @@
 // Dates and times as the program keeps them: text, yyyy/mm/dd and HH:mm:ss.
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 /// The server's date. One query to the common database on each call; "Not Found" without a row.
@@ -8,6 +9,9 @@
 QString sfg_GetServerDate();
 /// The server's date and some days, before or after. Throws ConversionError when it is no date.
 QString sfg_Date(int xAddDays);
+/// A day as yyyy/mm/dd, and such a text as a day. Throws ConversionError when it is no date.
+QString dateText(const QDate& date);
+QDate StrToDate(const QString& text);
 /// This machine's clock as HH:mm:ss.
 QString sfg_Time();
 /// yyyy/mm/dd to yyyymmdd; blank is today.

@@ -61,6 +61,9 @@ inline QString gDBaseRecID, gDBSPID, gDBDefCO, gDBDefBranch, gDBDefHQBranch;
 inline QString gSvrCatCode, gSvrCatString;
 inline std::array<QString, 50> gSvrCatArray;
 
+// ---- the schema of the till database ----
+inline QString gTillDBVersion, gLocalDBVersion, gMinVelDBVersion;
+
 // ---- the user ----
 inline QString gUserCode, gUserPswd, gUserName;
 inline int gUserID = 0;
@@ -71,6 +74,13 @@ inline int gPswdExpDays = 0;
 inline QString gAllowViewCost, gAllowViewProfit, gProfitCalcCost, gUseSession;
 inline int gAllowedAccessKey = 1;
 inline QString gLoginResult; // "0" running, "1" and "2" how it was refused
+inline QString gAllowCash, gAllowCheques, gAllowCreditCards, gAllowVouchers, gAllowTransfers;
+inline QString gAllowTenderTypes1, gAllowTenderTypes2, gAllowTenderTypes3, gAllowTenderTypes4;
+inline QString gTenderType1, gTenderType2, gTenderType3, gTenderType4;
+inline QString gTenderForm1, gTenderForm2, gTenderForm3, gTenderForm4;
+inline double gLimitCash = 0, gLimitCreditCards = 0, gLimitVouchers = 0, gLimitTransfers = 0;
+inline double gLimitTenderType1 = 0, gLimitTenderType2 = 0, gLimitTenderType3 = 0,
+              gLimitTenderType4 = 0;
 inline QString gDefSalesRep, gDefAccount, gDefTillNo, gDefWH, gDefCashierID, gCOFTillNo, gCOFName;
 
 // ---- the company ----
@@ -82,6 +92,9 @@ inline QString gCOBankName, gCOBranchName, gCOBranchCode, gCOAccNo, gCOAccName;
 inline QString gCCYActive, gCCY, gCCYDesc, gCCYSymbol;
 inline QString gCCYCode1, gCCYCOde2, gCCYCode3, gCCYCode4, gCCYCode5;
 inline int gCCYNumCode = 0;
+inline int gCostDecimal = 2; // decimals of a cost
+inline QString gGLSubAcc;    // whether ledger accounts have sub-accounts
+inline int gGLAccLen = 4, gGLSubAccLen = 0;
 
 // ---- the branch ----
 inline QString gBranch, gBRName, gBRShortName;
