@@ -1,0 +1,85 @@
+#include "security/CMN900.h"
+
+#include "data/DataUVEL.h"
+#include "data/StatementText.h"
+#include "security/SupervisorRights.h"
+
+#include <QLineEdit>
+
+namespace {
+const RightReads rightReads{
+    {"100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"},
+    {"100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"},
+    "*"};
+}
+
+TfrmCMN900::TfrmCMN900()
+    : SignInForm(QStringLiteral("CMN900"), QStringLiteral("Supervisor Overide Function")) {
+    setWindowTitle(QStringLiteral("Supervisor Over-Ride Code Required"));
+    edSuperCode = addCode(QStringLiteral("edSuperCode"), QStringLiteral("Supervisor Code"));
+    edSuperPswd = addPassword(QStringLiteral("edSuperPswd"), QStringLiteral("Password"));
+    auto* btnProceed = addButton(QStringLiteral("btnProceed"), QStringLiteral("   &Proceed"),
+                                 QStringLiteral("F10"));
+    btnProceed->setRole(velcro::ui::KeyButton::Role::Main);
+    auto* btnCancel =
+        addButton(QStringLiteral("btnCancel"), QStringLiteral("   &Cancel"), QStringLiteral("ESC"));
+    velcro::ui::connectHandler(btnProceed, &QPushButton::clicked, this,
+                               &TfrmCMN900::btnProceedClick);
+    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
+                               [this] { finish(QStringLiteral("CANCEL")); });
+    bindKey(Qt::Key_F10, btnProceed);
+    bindKey(Qt::Key_Escape, btnCancel);
+}
+
+void TfrmCMN900::FormShow() {
+    xReturn = QStringLiteral("START");
+    resetStatusBar();
+    edSuperCode->setFocus();
+}
+
+// An inactive supervisor may authorise too.
+void TfrmCMN900::btnProceedClick() {
+    resetStatusBar();
+    if (!readSupervisor()) {
+        return;
+    }
+    if (userPswd_.trimmed() != edSuperPswd->text().trimmed()) {
+        refuse(QStringLiteral("The password entered is INVALID"), edSuperPswd);
+    } else if (supervisor_ != QLatin1String("Y")) {
+        refuse(QStringLiteral("The code entered is NOT a Supervisor"), edSuperCode);
+    } else if (!CheckSuperAccess()) {
+        gErrorLogMsg = QStringLiteral("Module [%1] Access No. [%2]").arg(xModCode).arg(xAccessNo);
+        sfg_ErrorDlg(QStringLiteral("100414"),
+                     QStringLiteral("The Supervisor User Code DOES NOT have sufficient rights to "
+                                    "grant access for this Security Request"),
+                     unitName(), QStringLiteral("btnProceed"));
+        xReturn = QStringLiteral("ERROR");
+    } else {
+        finish(QStringLiteral("OK"));
+    }
+}
+
+bool TfrmCMN900::readSupervisor() {
+    return shownAsFalse(
+        {"100099", "Error Reading SYSUSER\r", "VTILL992", "btnProceedClick"}, [this] {
+            Statement Query1(gData->Velmara);
+            Query1.NewRead();
+            Query1.SQL.Add("SELECT * FROM SysUser WITH (NOLOCK) ");
+            Query1.SQL.Add(" WHERE [UserCode] = " + QuotedStr(edSuperCode->text()));
+            Query1.Open();
+            if (Query1.IsEmpty()) {
+                refuse(QStringLiteral("The Supervisor Code entered is INVALID"), edSuperCode);
+                return false;
+            }
+            userPswd_ = Query1.FieldByName("UserPswd").AsString();
+            supervisor_ = Query1.FieldByName("Supervisor").AsString();
+            userGroup_ = Query1.FieldByName("UserGroup").AsString();
+            return true;
+        });
+}
+
+bool TfrmCMN900::CheckSuperAccess() {
+    const QString option =
+        optionOfUser({userGroup_, edSuperCode->text(), xModCode, xAccessNo}, rightReads);
+    return option == QLatin1String("Y") || option == QLatin1String("G");
+}

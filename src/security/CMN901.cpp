@@ -1,0 +1,138 @@
+#include "security/CMN901.h"
+
+#include "data/DataUVEL.h"
+#include "data/StatementText.h"
+#include "security/SupervisorRights.h"
+
+#include <QLineEdit>
+#include <QTimer>
+
+namespace {
+
+const RightReads rightReads{
+    {"100413", "SQL Error on Table: SYSGrpAccess\r", "VTILL905", "Allowed_To_OverRide"},
+    {"100414", "SQL Error on Table: SYSUSERACCESS\r", "VTILL905", "Allowed_To_OverRide"},
+    "[Options]"};
+
+} // namespace
+
+TfrmCMN901::TfrmCMN901()
+    : SignInForm(QStringLiteral("CMN901"), QStringLiteral("Supervisor Over-ride")) {
+    setWindowTitle(QStringLiteral("Double Supervisor Over-Ride Required"));
+    addSupervisor(supervisors_[0], QStringLiteral("1"), QStringLiteral("First Supervisor"));
+    addSupervisor(supervisors_[1], QStringLiteral("2"), QStringLiteral("Second Supervisor"));
+    auto* btnOK =
+        addButton(QStringLiteral("btnOK"), QStringLiteral(" Proceed"), QStringLiteral("F10"));
+    btnOK->setRole(velcro::ui::KeyButton::Role::Main);
+    auto* btnCancel =
+        addButton(QStringLiteral("btnCancel"), QStringLiteral("Cancel"), QStringLiteral("ESC"));
+    velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN901::btnOKClick);
+    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
+                               [this] { finish(QStringLiteral("CANCEL")); });
+    bindKey(Qt::Key_Escape, btnCancel);
+}
+
+void TfrmCMN901::addSupervisor(Supervisor& supervisor, const QString& xNo, const QString& title) {
+    form().group(title);
+    supervisor.code = addCode(QStringLiteral("edSuper") + xNo, QStringLiteral("User Code"));
+    supervisor.password = addPassword(QStringLiteral("edPswd") + xNo, QStringLiteral("Password"));
+    onEnter(supervisor.code, [this, &supervisor] {
+        if (!supervisor.code->text().trimmed().isEmpty()) {
+            goOn();
+        }
+    });
+    onEnter(supervisor.password, [this, &supervisor, xNo] {
+        if (!supervisor.password->text().trimmed().isEmpty() && ValidateSuper(xNo)) {
+            goOn();
+        }
+    });
+}
+
+TfrmCMN901::Supervisor& TfrmCMN901::supervisor(const QString& xNo) {
+    return supervisors_[xNo == QLatin1String("1") ? 0 : 1];
+}
+
+// The right to use a module has the number 0: it can never be lent here.
+void TfrmCMN901::FormShow() {
+    xReturn = QStringLiteral("START");
+    resetStatusBar();
+    for (auto& each : supervisors_) {
+        each.user.clear();
+        each.pswd.clear();
+        each.group.clear();
+    }
+    if (xAccessNo == 0) {
+        sfg_ErrorDlg(QStringLiteral("100412"),
+                     QStringLiteral("No Access ID was passed for Verification"),
+                     QStringLiteral("VST995"), QStringLiteral("FormShow"));
+        QTimer::singleShot(0, this, &QDialog::reject);
+    }
+    supervisors_[0].code->setFocus();
+}
+
+bool TfrmCMN901::ValidateSuper(const QString& xNo) {
+    resetStatusBar();
+    if (xNo == QLatin1String("2") &&
+        supervisors_[0].code->text().trimmed() == supervisors_[1].code->text().trimmed()) {
+        displayError(QStringLiteral("Both Supervisor Codes cannot be the same"));
+        return false;
+    }
+    if (!readSupervisor(xNo)) {
+        return false;
+    }
+    if (supervisor(xNo).pswd != supervisor(xNo).password->text()) {
+        displayError(QStringLiteral("Password for Supervisor %1 is INVALID").arg(xNo));
+        return false;
+    }
+    if (!Allowed_To_OverRide(xNo)) {
+        displayError(xNo == QLatin1String("1")
+                         ? QStringLiteral("Supervisor 1 is NOT ALLOWED to Grant Access here")
+                         : QStringLiteral("Supervisor 2 is NOT ALLOWED to Grant Access Here"));
+        return false;
+    }
+    return true;
+}
+
+bool TfrmCMN901::readSupervisor(const QString& xNo) {
+    return shownAsFalse({"100411", "SQL Error on Table: SYSUSER\r", "VTILL995", "btnOKClick"}, [&] {
+        Supervisor& who = supervisor(xNo);
+        Statement Query1(gData->Velmara);
+        Query1.NewRead();
+        Query1.SQL.Add("SELECT UserCode, UserPswd, UserGroup ");
+        Query1.SQL.Add(" FROM SysUser ");
+        Query1.SQL.Add(" WHERE UserCode = " + QuotedStr(who.code->text()));
+        Query1.Open();
+        if (Query1.IsEmpty()) {
+            displayError(QStringLiteral("Supervisor %1 Code entered is Invalid").arg(xNo));
+            return false;
+        }
+        who.user = Query1.FieldByName("UserCode").AsString();
+        who.pswd = Query1.FieldByName("UserPswd").AsString();
+        who.group = Query1.FieldByName("UserGroup").AsString();
+        return true;
+    });
+}
+
+bool TfrmCMN901::Allowed_To_OverRide(const QString& xNo) {
+    const Supervisor& who = supervisor(xNo);
+    const QString option = optionOfUser({who.group, who.user, xModCode, xAccessNo}, rightReads);
+    return option == QLatin1String("Y") || option == QLatin1String("V");
+}
+
+// The result is "OK" from the first press on: a caller trusts it however the form is closed, and
+// only Cancel takes it back.
+void TfrmCMN901::btnOKClick() {
+    resetStatusBar();
+    xReturn = QStringLiteral("OK");
+    for (const auto& xNo : {QStringLiteral("1"), QStringLiteral("2")}) {
+        if (!ValidateSuper(xNo)) {
+            supervisor(xNo).code->setFocus();
+            return;
+        }
+    }
+    xAuthUser1 = supervisors_[0].code->text();
+    xAuthUser2 = supervisors_[1].code->text();
+    gSParam[1] = xAuthUser1;
+    gSParam[2] = xAuthUser2;
+    finish(QStringLiteral("OK"));
+}

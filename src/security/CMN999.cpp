@@ -1,0 +1,246 @@
+#include "security/CMN999.h"
+
+#include "application/SessionFile.h"
+#include "application/SysFuncGlobal.h"
+#include "data/DataUCMN.h"
+#include "data/DataUTIL.h"
+#include "data/DateTimeText.h"
+#include "data/StatementText.h"
+#include "data/TextHelpers.h"
+#include "schema/SysTillDBMods.h"
+#include "security/CMN999A.h"
+#include "security/CMN999E.h"
+#include "security/LogInPicture.h"
+#include "security/LogInRead.h"
+#include "security/SysLogIn.h"
+#include "ui/Modal.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString defaultPassword = QStringLiteral("XQZ741");
+const QString reservedUser = QStringLiteral("KORVAL");
+
+constexpr int pictureHeight = 150;
+
+// Resets the busy cursor on every way out but the one that leaves it.
+class BusyCursor
+{
+public:
+    BusyCursor() { sfg_SetCursor(QStringLiteral("BUSY")); }
+    ~BusyCursor() {
+        if (!keep) {
+            sfg_SetCursor(QStringLiteral("RESET"));
+        }
+    }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+
+    bool keep = false;
+};
+
+} // namespace
+
+TfrmCMN999::TfrmCMN999()
+    : SignInForm(QStringLiteral("CMN999"), gEXETitle) {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    makePictures();
+    cmbDatabase = form().combo(QStringLiteral("cmbDatabase"), QStringLiteral("Select Company"));
+    edUserCode = addCode(QStringLiteral("edUserCode"), QStringLiteral("User Code"));
+    edUserPswd = addPassword(QStringLiteral("edUserPswd"), QStringLiteral("Password"));
+    onEnter(edUserPswd, [this] { edUserPswdEnter(); });
+    makeButtons();
+    bindKey(Qt::Key_F1, this, &TfrmCMN999::acSelectDB);
+    StatusBar1().addPanel(velcro::ui::psHTML, QStringLiteral("Version : ") + gVersion);
+}
+
+void TfrmCMN999::makePictures() {
+    imgBackground =
+        new LogInPicture(QStringLiteral("background"), Qt::KeepAspectRatioByExpanding, this);
+    imgBackground->setObjectName(QStringLiteral("imgBackground"));
+    imgBackground->setFixedHeight(pictureHeight);
+    ImgLogInLogo =
+        new LogInPicture(QStringLiteral("suite-logo"), Qt::KeepAspectRatio, imgBackground);
+    ImgLogInLogo->setObjectName(QStringLiteral("ImgLogInLogo"));
+    body().insertWidget(0, imgBackground);
+}
+
+void TfrmCMN999::resizeEvent(QResizeEvent* event) {
+    SignInForm::resizeEvent(event);
+    ImgLogInLogo->setGeometry(QRect(0, 0, width(), pictureHeight).adjusted(24, 24, -24, -24));
+}
+
+void TfrmCMN999::makeButtons() {
+    auto* pick = new velcro::ui::KeyButton(QStringLiteral("Find Company"), this);
+    pick->setObjectName(QStringLiteral("btnSelectDB"));
+    pick->setAccessibleName(QStringLiteral("Find Company"));
+    pick->setKeyCap(QStringLiteral("F1"));
+    pick->setFocusPolicy(Qt::NoFocus);
+    form().beside().control(pick, QStringLiteral("btnSelectDB"), QString());
+    velcro::ui::connectHandler(pick, &QPushButton::clicked, this, &TfrmCMN999::acSelectDB);
+
+    auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral("OK"), QStringLiteral("ENTER"));
+    btnOK->setRole(velcro::ui::KeyButton::Role::Main);
+    auto* btnCancel = addButton(QStringLiteral("btnCancel"), QStringLiteral("&Cancel"), QString());
+    velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN999::btnOKClick);
+    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
+                               [this] { finish(QStringLiteral("CANCEL")); });
+}
+
+void TfrmCMN999::FormShow() {
+    gTillDBVersion = requiredTillDBVersion;
+    gMinVelDBVersion = requiredTillDBVersion;
+    StatusBar1().setPanelText(1, gEXETitle);
+    xReturn = QStringLiteral("START");
+    resetStatusBar();
+    LoadSettings();
+    edUserCode->setFocus();
+}
+
+bool TfrmCMN999::LoadSettings() {
+    Statement& query = cData->vcQuery1;
+    query.NewRead();
+    query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK)");
+    query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
+    if (!gSvrCatCode.trimmed().isEmpty()) {
+        query.SQL.Add("   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode));
+    }
+    if (!gSvrCatString.trimmed().isEmpty()) {
+        query.SQL.Add("   AND [SvrCatCode] IN (" + gSvrCatString + ")");
+    }
+    query.SQL.Add(" ORDER BY [DisplaySeq] ");
+    query.Open();
+    if (query.IsEmpty()) {
+        sfg_ErrorDlg(QStringLiteral("900002"),
+                     QStringLiteral("There are NO Company/Branches Loaded on the System"),
+                     unitName(), QStringLiteral("LoadSettings"));
+        return false;
+    }
+    cmbDatabase->clear();
+    for (; !query.Eof(); query.Next()) {
+        cmbDatabase->addItem(query.FieldByName("DisplayName").AsString());
+    }
+    query.Close();
+    defDisplayName_ = sfg_ReadSession_INIFile(QStringLiteral("DBDisplayName"));
+    selectDatabase(defDisplayName_);
+    Load_WhiteLabel_Images();
+    return true;
+}
+
+void TfrmCMN999::selectDatabase(const QString& xDisplayName) {
+    cmbDatabase->setCurrentIndex(qMax(0, sfg_FindComboIndex(xDisplayName, *cmbDatabase, false)));
+}
+
+// Img02 wins over Img01: both stand for the background. What is no picture leaves the form's own.
+bool TfrmCMN999::Load_WhiteLabel_Images() {
+    return shownAsFalse(
+        {"999999", "SQL Error on Table: VCSettings :-\r", "CMN999", "Load_WhiteLabel_Images"},
+        [this] {
+            Statement& query = cData->vcLoadQuery1;
+            query.NewRead();
+            query.SQL.Add("SELECT [Img01], [Img02] ");
+            query.SQL.Add("  FROM VCSettings WITH (NOLOCK) ");
+            query.SQL.Add(" WHERE [DisplayName] = " + QuotedStr(defDisplayName_));
+            query.Open();
+            for (const char* column : {"Img01", "Img02"}) {
+                QPixmap picture;
+                if (!query.IsEmpty() && picture.loadFromData(query.FieldByName(column).AsBytes())) {
+                    imgBackground->show(picture);
+                }
+            }
+            const bool found = !query.IsEmpty();
+            query.Close();
+            return found;
+        });
+}
+
+void TfrmCMN999::acSelectDB() {
+    TfrmCMN999E picker;
+    velcro::ui::runModal(picker);
+    if (!picker.chosen().isEmpty()) {
+        selectDatabase(picker.chosen());
+        edUserCode->setFocus();
+    }
+}
+
+void TfrmCMN999::edUserPswdEnter() {
+    if (!edUserPswd->text().trimmed().isEmpty()) {
+        btnOKClick();
+    }
+}
+
+bool TfrmCMN999::entriesAccepted() {
+    const QString database = cmbDatabase->currentText();
+    if (edUserCode->text().trimmed().isEmpty()) {
+        refuse(QStringLiteral("User Code Cannot be Blank"), edUserCode);
+    } else if (edUserPswd->text().trimmed().isEmpty()) {
+        refuse(QStringLiteral("Please enter your Password"), edUserPswd);
+    } else if (database.isEmpty()) {
+        refuse(QStringLiteral("Select the Log-In Company"), cmbDatabase);
+    } else if (!sli_VerifyDatabase(database)) {
+        refuse(QStringLiteral("Selected Database has NOT Settings Defined"), cmbDatabase);
+    } else if (edUserCode->text().startsWith(reservedUser)) {
+        refuse(QStringLiteral("The KORVAL user code is RESERVED"), edUserCode);
+    } else {
+        return true;
+    }
+    return false;
+}
+
+bool TfrmCMN999::tillDatabaseReady() {
+    if (!tData->ConnectDB_TIL()) {
+        return false;
+    }
+    tb_Check_Till_DBVersion();
+    if (tillSchemaIsBehind()) {
+        displayMessage(QStringLiteral("Warn"),
+                       QStringLiteral("Local DB Upgrade in Progress.   Please wait....."));
+        tb_Upgrade();
+        resetStatusBar();
+    }
+    return true;
+}
+
+// The password is still good on its expiry date.
+bool TfrmCMN999::passwordMustChange() const {
+    if (edUserPswd->text().trimmed() == defaultPassword) {
+        return true;
+    }
+    if (gAllowPswdExp != QLatin1String("Y")) {
+        return false;
+    }
+    return dateText(StrToDate(gPswdDate).addDays(gPswdExpDays)) < sfg_Date(0);
+}
+
+void TfrmCMN999::btnOKClick() {
+    BusyCursor busy;
+    resetStatusBar();
+    if (!entriesAccepted()) {
+        return;
+    }
+    if (!tillDatabaseReady()) {
+        busy.keep = true;
+        return;
+    }
+    if (!sli_LogIn(edUserCode->text(), edUserPswd->text(), StrToInt(gDBaseRecID), QString(),
+                   QString()) &&
+        gLoginResult == QLatin1String("1")) {
+        displayError(gErrorMsg);
+        return;
+    }
+    if (passwordMustChange() && !ChangePswd()) {
+        edUserCode->setFocus();
+        return;
+    }
+    finish(QStringLiteral("OK"));
+}
+
+bool TfrmCMN999::ChangePswd() {
+    TfrmCMN999A form(edUserCode->text());
+    velcro::ui::runModal(form);
+    return form.xReturn == QLatin1String("OK");
+}

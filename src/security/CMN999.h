@@ -1,0 +1,47 @@
+// The log-in screen: database, user code and password, and what must happen before the menu opens.
+#pragma once
+
+#include "security/SignInForm.h"
+
+class QComboBox;
+class LogInPicture;
+
+class TfrmCMN999 : public SignInForm
+{
+    Q_OBJECT
+
+public:
+    TfrmCMN999();
+
+    /// Offers the databases of the suite (vcSettings) and selects the one of the last session.
+    bool LoadSettings();
+    /// The forced change of the password; false when it was turned down.
+    bool ChangePswd();
+    /// The pictures that vcSettings holds for the remembered database; false without its row.
+    bool Load_WhiteLabel_Images();
+
+    /// Only OK and Cancel end the log-in.
+    void reject() override {}
+
+protected:
+    void FormShow() override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makePictures();
+    void makeButtons();
+    void acSelectDB();
+    void btnOKClick();
+    void edUserPswdEnter();
+    bool entriesAccepted();
+    bool tillDatabaseReady();
+    bool passwordMustChange() const;
+    void selectDatabase(const QString& xDisplayName);
+
+    QString defDisplayName_; // of the last session
+    QComboBox* cmbDatabase = nullptr;
+    QLineEdit* edUserCode = nullptr;
+    QLineEdit* edUserPswd = nullptr;
+    LogInPicture* imgBackground = nullptr;
+    LogInPicture* ImgLogInLogo = nullptr;
+};

@@ -1,0 +1,99 @@
+#include "security/CMN999E.h"
+
+#include "data/DataUCMN.h"
+#include "data/Session.h"
+#include "data/StatementText.h"
+#include "security/LogInRead.h"
+#include "ui/RowGrid.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+TfrmCMN999E::TfrmCMN999E()
+    : Screen(QStringLiteral("CMN999E"), QStringLiteral("Select Log-in Database "), nullptr) {
+    resize(640, 520);
+    edFind_ = new QLineEdit(this);
+    edFind_->setObjectName(QStringLiteral("edFind"));
+    edFind_->setAccessibleName(QStringLiteral("Find Company"));
+    edFind_->setPlaceholderText(QStringLiteral("Find Company"));
+    edFind_->setClearButtonEnabled(true);
+    edFind_->hide();
+    grid_ = new velcro::ui::RowGrid(this);
+    grid_->setObjectName(QStringLiteral("grdDatabases"));
+    grid_->setAccessibleName(QStringLiteral("Companies"));
+    grid_->setColumns({{QStringLiteral("DisplayName"), QStringLiteral("Company")}});
+    grid_->installEventFilter(this);
+    body().setContentsMargins(12, 12, 12, 12);
+    body().addWidget(edFind_);
+    body().addWidget(grid_);
+    bindKey(Qt::Key_Escape, this, &TfrmCMN999E::acExit);
+    velcro::ui::connectHandler(grid_, &velcro::ui::RowGrid::rowChosen, this, &TfrmCMN999E::choose);
+    velcro::ui::connectHandler(edFind_, &QLineEdit::textChanged, this, &TfrmCMN999E::find);
+    velcro::ui::connectHandler(edFind_, &QLineEdit::returnPressed, this, &TfrmCMN999E::choose);
+}
+
+void TfrmCMN999E::FormShow() {
+    shownAsFalse({"999999", "SQL Error on Table: vcSettings :-\r", "CMN999E", "FormShow"}, [this] {
+        Statement query(cData->VelmaraCommon);
+        query.NewRead();
+        query.SQL.Add("SELECT [DisplayName] FROM vcSettings WITH (NOLOCK) ");
+        query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
+        if (!gSvrCatCode.trimmed().isEmpty()) {
+            query.SQL.Add("   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode));
+        }
+        query.SQL.Add(" ORDER BY [DisplaySeq] ");
+        query.Open();
+        rows_ = query.rows();
+        grid_->setRows(rows_);
+        grid_->setFocus();
+        return true;
+    });
+}
+
+bool TfrmCMN999E::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == grid_ && event->type() == QEvent::KeyPress) {
+        const QString typed = static_cast<QKeyEvent*>(event)->text();
+        if (!typed.isEmpty() && typed.at(0).isPrint()) {
+            showFindPanel(typed);
+            return true;
+        }
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+void TfrmCMN999E::showFindPanel(const QString& text) {
+    edFind_->show();
+    edFind_->setFocus();
+    edFind_->setText(text);
+}
+
+// Leaves the rows that hold the text; the whole list again when it is blank.
+void TfrmCMN999E::find(const QString& text) {
+    velcro::sql::RowSetBuilder found(
+        {rows_.columnCount() ? rows_.column(0) : velcro::sql::Column{"DisplayName"}});
+    for (std::size_t row = 0; row < rows_.rowCount(); ++row) {
+        if (cellText(rows_, row, 0).contains(text, Qt::CaseInsensitive)) {
+            found.addBytes(rows_.bytes(row, 0));
+            found.endRow();
+        }
+    }
+    grid_->setRows(found.take());
+}
+
+void TfrmCMN999E::choose() {
+    if (const auto row = grid_->currentResultRow()) {
+        chosen_ = cellText(grid_->rowModel().rows(), *row, 0);
+        accept();
+    }
+}
+
+void TfrmCMN999E::acExit() {
+    if (edFind_->isVisible()) {
+        edFind_->clear();
+        edFind_->hide();
+        grid_->setFocus();
+    } else {
+        reject();
+    }
+}

@@ -1,0 +1,77 @@
+#include "security/ReferencePage.h"
+
+#include "ui/Handler.h"
+#include "ui/RowGrid.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+ReferencePage::ReferencePage(const QString& gridName, const QString& title,
+                             const QStringList& headings, QWidget* parent)
+    : QWidget(parent)
+    , title_(title) {
+    grid_ = new velcro::ui::RowGrid(this);
+    grid_->setObjectName(gridName);
+    grid_->setAccessibleName(title);
+    std::vector<velcro::ui::GridColumn> columns;
+    for (const QString& heading : headings) {
+        fields_ << QStringLiteral("c%1").arg(fields_.size());
+        columns.push_back({fields_.last(), heading.isEmpty() ? QStringLiteral(" ") : heading});
+    }
+    grid_->setColumns(std::move(columns));
+    edSearch_ = new QLineEdit(this);
+    edSearch_->setObjectName(gridName + QStringLiteral("Search"));
+    edSearch_->setAccessibleName(QStringLiteral("Search in Grid"));
+    edSearch_->setPlaceholderText(QStringLiteral("Search in Grid"));
+    edSearch_->hide();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(grid_);
+    layout->addWidget(edSearch_);
+    velcro::ui::connectHandler(edSearch_, &QLineEdit::textChanged, this, &ReferencePage::search);
+}
+
+void ReferencePage::addRow(const QStringList& cells) {
+    rows_.append(cells);
+}
+
+void ReferencePage::showRows() {
+    search(QString());
+}
+
+bool ReferencePage::footerIsOpen() const {
+    return edSearch_->isVisible();
+}
+
+void ReferencePage::flipFooter() {
+    const bool open = !footerIsOpen();
+    edSearch_->clear();
+    edSearch_->setVisible(open);
+    if (open) {
+        edSearch_->setFocus();
+    } else {
+        grid_->setFocus();
+    }
+}
+
+// Leaves the rows in which any cell holds the text.
+void ReferencePage::search(const QString& text) {
+    std::vector<velcro::sql::Column> columns;
+    for (const QString& field : fields_) {
+        columns.push_back({field.toStdString()});
+    }
+    velcro::sql::RowSetBuilder shown(std::move(columns));
+    for (const QStringList& row : rows_) {
+        const bool fits = std::any_of(row.begin(), row.end(), [&text](const QString& cell) {
+            return cell.contains(text, Qt::CaseInsensitive);
+        });
+        if (fits) {
+            for (const QString& cell : row) {
+                shown.addBytes(cell.toStdString());
+            }
+            shown.endRow();
+        }
+    }
+    grid_->setRows(shown.take());
+}

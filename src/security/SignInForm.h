@@ -1,0 +1,47 @@
+// What the small forms that ask for a user code or a password have in common: their place in the
+// middle of the screen, their edits for codes and passwords, and OK and Cancel below them.
+#pragma once
+
+#include "application/Screen.h"
+#include "ui/FormBuilder.h"
+
+class QHBoxLayout;
+class QLineEdit;
+
+class SignInForm : public Screen
+{
+    Q_OBJECT
+
+public:
+    SignInForm(const QString& unit, const QString& caption);
+
+    /// "START" while open; how the form ended is in the caller's words "OK", "CANCEL" or "ERROR".
+    QString xReturn = QStringLiteral("START");
+
+protected:
+    velcro::ui::FormBuilder& form() { return *form_; }
+    /// Upper case, ten letters, marked while it has the focus. Enter goes on to the next control
+    /// unless the form binds it otherwise.
+    QLineEdit* addCode(const QString& name, const QString& label);
+    /// The same, shown as "#".
+    QLineEdit* addPassword(const QString& name, const QString& label);
+    velcro::ui::KeyButton* addButton(const QString& name, const QString& caption,
+                                     const QString& keyCap);
+    /// Enter in that edit runs the handler in place of going on.
+    template <typename Handler>
+    void onEnter(QLineEdit* edit, Handler handler) {
+        QObject::disconnect(edit, &QLineEdit::returnPressed, nullptr, nullptr);
+        velcro::ui::connectHandler(edit, &QLineEdit::returnPressed, this, handler);
+    }
+    /// Shows a refusal in the status bar and puts the focus where it can be mended.
+    void refuse(const QString& message, QWidget* focus);
+    void finish(const QString& outcome);
+    void goOn() { focusNextChild(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    std::unique_ptr<velcro::ui::FormBuilder> form_;
+    QHBoxLayout* buttons_ = nullptr;
+};

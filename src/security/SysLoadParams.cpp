@@ -1,0 +1,190 @@
+#include "security/SysLoadParams.h"
+
+#include "application/SysDataModel.h"
+#include "data/DataUCMN.h"
+#include "data/DataUVEL.h"
+#include "data/StatementText.h"
+#include "security/SettingsIndex.h"
+
+namespace {
+
+const QString unitName = QStringLiteral("SysLoadParams");
+
+QString par_CO;
+QString par_Branch;
+
+struct LegacyGroup
+{
+    const char* code;
+    LegacyParameters* values;
+};
+
+constexpr LegacyGroup legacyGroups[] = {
+    {"CO", &gParam_CO},   {"BRANCH", &gParam_Branch}, {"CRD", &gParam_CRD}, {"STK", &gParam_STK},
+    {"DEB", &gParam_DEB}, {"POS", &gParam_POS},       {"PUR", &gParam_PUR}, {"REP", &gParam_REP},
+    {"GSM", &gParam_GSM}, {"UTL", &gParam_UTL},       {"GLG", &gParam_GLG}, {"COF", &gParam_COF},
+    {"SYS", &gParam_SYS}, {"TIL", &gParam_TIL},       {"VIP", &gParam_VIP},
+};
+
+/// The group a definition belongs to: its level, or its module where it is of no level.
+QString groupCode(const QString& xParmType, const QString& xModCode) {
+    if (xParmType.isEmpty()) {
+        throw std::out_of_range("ParmType is empty");
+    }
+    switch (xParmType.at(0).unicode()) {
+    case 'B':
+        return QStringLiteral("BRANCH");
+    case 'C':
+        return QStringLiteral("CO");
+    case 'U':
+        return QStringLiteral("USER");
+    default:
+        return xModCode.trimmed();
+    }
+}
+
+TParameter* addParameter(const QString& xCode, int xNumber, const QString& xName,
+                         const QString& xValue) {
+    auto parameter = std::make_unique<TParameter>();
+    parameter->ParamCode = xCode;
+    parameter->ParamNo = xNumber;
+    parameter->ParamName = xName;
+    parameter->ParamValue = xValue;
+    gParameters.push_back(std::move(parameter));
+    return gParameters.back().get();
+}
+
+} // namespace
+
+bool par_LoadParameters(const QString& xCO, const QString& xBranch) {
+    par_CO = xCO;
+    par_Branch = xBranch;
+    if (!par_Load_ParamControl()) {
+        return false;
+    }
+    ParameterIndex index;
+    for (const auto& parameter : gParameters) {
+        const auto key = settingKey(parameter->ParamCode, parameter->ParamNo);
+        if (!index.contains(key)) {
+            index.insert(key, parameter.get());
+        }
+    }
+    if (!par_LoadAllParam_Overrides(index, par_CO, par_Branch, gUserGroup, gUserCode)) {
+        return false;
+    }
+    par_PopulateLegacyArrays();
+    return par_LoadVATRates();
+}
+
+bool par_Load_ParamControl() {
+    gParameters.clear();
+    const auto fault = QStringLiteral(
+        "[%1.par_Load_ParamControl] SQL Error reading \"vcSysParmControl\".\r\"%2\".");
+    return readQuietly(fault, unitName, [] {
+        Statement query(cData->VelmaraCommon);
+        query.NewRead();
+        query.SQL.Add("SELECT * FROM vcSysParmControl WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
+        query.SQL.Add(" ORDER BY [ParmType], [ModCode], [ParmNo]");
+        for (query.Open(); !query.Eof(); query.Next()) {
+            addParameter(groupCode(query.FieldByName("ParmType").AsString(),
+                                   query.FieldByName("ModCode").AsString()),
+                         query.FieldByName("ParmNo").AsInteger(),
+                         query.FieldByName("ParmName").AsString(),
+                         query.FieldByName("DefaultValue").AsString());
+        }
+    });
+}
+
+// Each group is set on one level only: a value of the user's group does not fall back on the
+// branch's, nor the branch's on the company's. Modules are set by branch, three of them by company.
+bool par_LoadAllParam_Overrides(ParameterIndex& dict, const QString& xCO, const QString& xBranch,
+                                const QString& xUserGroup, const QString&) {
+    const auto fault = QStringLiteral(
+        "[%1.par_LoadAllParam_Overrides] SQL Error loading parameter overrides. \"%2\".");
+    return readQuietly(fault, unitName, [&] {
+        Statement query(gData->Velmara);
+        query.NewRead();
+        query.SQL.Add("SELECT 'CO' AS [ParamCode], [ParamNo], [ParamValue], 1 AS [Priority]");
+        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = '' AND [ModCode] = '' AND UserCode = ''");
+        query.SQL.Add("UNION ALL");
+        query.SQL.Add("SELECT 'BRANCH' AS [ParamCode], [ParamNo], [ParamValue], 2 AS [Priority]");
+        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch");
+        query.SQL.Add("   AND [ModCode] = '' AND [UserCode] = ''");
+        query.SQL.Add("UNION ALL");
+        query.SQL.Add("SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 3 AS [Priority]");
+        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = ''");
+        query.SQL.Add("   AND [ModCode] IN ( 'CRD','GSM','GLG') AND [UserCode] = ''");
+        query.SQL.Add("UNION ALL");
+        query.SQL.Add("SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 4 AS [Priority]");
+        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch");
+        query.SQL.Add("   AND [ModCode] NOT IN ( 'CRD','GSM','GLG') AND [UserCode] = ''");
+        query.SQL.Add("UNION ALL");
+        query.SQL.Add("SELECT 'USER' AS [ParamCode], [ParamNo], [ParamValue], 5 AS [Priority]");
+        query.SQL.Add("  FROM SYSGrpParam WITH (NOLOCK)");
+        query.SQL.Add(" WHERE [CO] = :CO AND [UserGroup] = :UserGroup");
+        query.SQL.Add(" ORDER BY [Priority]");
+        query.ParamByName("CO").setString(xCO);
+        query.ParamByName("Branch").setString(xBranch);
+        query.ParamByName("UserGroup").setString(xUserGroup);
+        for (query.Open(); !query.Eof(); query.Next()) {
+            par_UpdateOrAddParamInDict(dict, query.FieldByName("ParamCode").AsString(),
+                                       query.FieldByName("ParamNo").AsInteger(),
+                                       query.FieldByName("ParamValue").AsString());
+        }
+    });
+}
+
+// An override without a definition is kept, so that it can be read all the same.
+void par_UpdateOrAddParamInDict(ParameterIndex& dict, const QString& xParamCode, int xParamNo,
+                                const QString& xValue) {
+    TParameter*& entry = dict[settingKey(xParamCode, xParamNo)];
+    if (entry) {
+        entry->ParamValue = xValue;
+    } else {
+        entry = addParameter(xParamCode, xParamNo, QString(), xValue);
+    }
+}
+
+void par_PopulateLegacyArrays() {
+    for (const auto& parameter : gParameters) {
+        if (parameter->ParamNo < 1 || parameter->ParamNo > 300) {
+            continue;
+        }
+        for (const auto& group : legacyGroups) {
+            if (parameter->ParamCode.compare(QLatin1String(group.code), Qt::CaseInsensitive) == 0) {
+                (*group.values)[static_cast<std::size_t>(parameter->ParamNo)] =
+                    parameter->ParamValue;
+            }
+        }
+    }
+}
+
+bool par_LoadVATRates() {
+    gVatRates.clear();
+    const auto fault =
+        QStringLiteral("[%1.par_LoadVATRates] SQL Error reading \"SysTax\".\r\"%2\".");
+    const bool read = readQuietly(fault, unitName, [] {
+        Statement query(gData->Velmara);
+        query.NewRead();
+        query.SQL.Add("SELECT * FROM SysTax WITH (NOLOCK) ORDER BY [SeqNo]");
+        for (query.Open(); !query.Eof(); query.Next()) {
+            auto rate = std::make_unique<TVatRate>();
+            rate->VATCode = query.FieldByName("TaxCode").AsString();
+            rate->Description = query.FieldByName("TaxDesc").AsString();
+            rate->VATRate = query.FieldByName("TaxRate").AsFloat();
+            rate->FromDate = query.FieldByName("FromDate").AsString();
+            rate->ToDate = query.FieldByName("ToDate").AsString();
+            gVatRates.push_back(std::move(rate));
+        }
+    });
+    if (read && gVatRates.empty()) {
+        gErrorMsg = QStringLiteral("NO VAT Rates Found.");
+        return false;
+    }
+    return read;
+}

@@ -1,0 +1,321 @@
+#include "security/SysLogIn.h"
+
+#include "application/SessionFile.h"
+#include "application/Settings.h"
+#include "application/SysDataModel.h"
+#include "data/DataUCMN.h"
+#include "data/DataUVEL.h"
+#include "data/DateTimeText.h"
+#include "data/Session.h"
+#include "data/StatementText.h"
+#include "data/SysLoadData.h"
+#include "messaging/SysSendSMS.h"
+#include "security/LogInRead.h"
+#include "security/SysLoadAccess.h"
+#include "security/SysLoadParams.h"
+
+#include <initializer_list>
+
+namespace {
+
+// What the caller asked for, and what the database row and the user's row say of company and
+// branch.
+QString sli_UserCode, sli_UserPswd;
+int sli_DBaseRecID = 0;
+QString sli_UDefCO, sli_UDefBranch;
+QString sli_DBDefCO, sli_DBDefBranch, sli_DBDefHQBranch, sli_DBDisplayName;
+
+// The right to use a module at all.
+constexpr int moduleRight = 0;
+
+struct FloatColumn
+{
+    const char* column;
+    double* value;
+};
+
+const TextColumn groupColumns[] = {
+    {"AllowViewCost", &gAllowViewCost},
+    {"AllowViewProfit", &gAllowViewProfit},
+    {"ProfitCalcCost", &gProfitCalcCost},
+    {"PswdExp", &gAllowPswdExp},
+};
+
+// The user's own AllowViewCost, AllowViewProfit and ProfitCalcCost win over the group's.
+const TextColumn userColumns[] = {
+    {"UserCode", &gUserCode},
+    {"UserCode", &gUserLogInCode},
+    {"UserName", &gUserName},
+    {"DefCO", &sli_UDefCO},
+    {"DefBranch", &sli_UDefBranch},
+    {"DefWH", &gDefWH},
+    {"DefSalesRep", &gDefSalesRep},
+    {"DefAccount", &gDefAccount},
+    {"DefTillNo", &gDefTillNo},
+    {"EMail", &gUserEMail},
+    {"CellNo", &gUserCellNo},
+    {"Supervisor", &gSupervisor},
+    {"SuperCardNo", &gSuperCardNo},
+    {"AllowCash", &gAllowCash},
+    {"AllowCheques", &gAllowCheques},
+    {"AllowCreditCards", &gAllowCreditCards},
+    {"AllowVouchers", &gAllowVouchers},
+    {"AllowTransfers", &gAllowTransfers},
+    {"AllowTenderType1", &gAllowTenderTypes1},
+    {"AllowTenderType2", &gAllowTenderTypes2},
+    {"AllowTenderType3", &gAllowTenderTypes3},
+    {"AllowTenderType4", &gAllowTenderTypes4},
+    {"TenderType1", &gTenderType1},
+    {"TenderType2", &gTenderType2},
+    {"TenderType3", &gTenderType3},
+    {"TenderType4", &gTenderType4},
+    {"TenderForm1", &gTenderForm1},
+    {"TenderForm2", &gTenderForm2},
+    {"TenderForm3", &gTenderForm3},
+    {"TenderForm4", &gTenderForm4},
+    {"AllowViewCost", &gAllowViewCost},
+    {"AllowViewProfit", &gAllowViewProfit},
+    {"ProfitCalcCost", &gProfitCalcCost},
+    {"PswdDate", &gPswdDate},
+    {"UseSession", &gUseSession},
+    {"DefaultPrinter", &gDefaultPrinter},
+};
+
+const FloatColumn userLimits[] = {
+    {"LimitCash", &gLimitCash},
+    {"LimitCreditCards", &gLimitCreditCards},
+    {"LimitVouchers", &gLimitVouchers},
+    {"LimitTransfers", &gLimitTransfers},
+    {"LimitTenderType1", &gLimitTenderType1},
+    {"LimitTenderType2", &gLimitTenderType2},
+    {"LimitTenderType3", &gLimitTenderType3},
+    {"LimitTenderType4", &gLimitTenderType4},
+};
+
+bool loadUserGroup() {
+    Statement query(gData->Velmara);
+    query.NewRead();
+    query.SQL.Add("SELECT * FROM SysUserGroup WITH (NOLOCK) ");
+    query.SQL.Add(" WHERE [CO] = " + QuotedStr(sli_DBDefCO));
+    query.SQL.Add("   AND [UserGroup] = " + QuotedStr(gUserGroup));
+    query.Open();
+    if (query.IsEmpty()) {
+        return refuse(QStringLiteral("User Group : [%1] %2 for User : %3 WAS NOT FOUND")
+                          .arg(sli_DBDefCO, gUserGroup, sli_UserCode));
+    }
+    copyText(query, groupColumns);
+    gPswdExpDays = query.FieldByName("PswdExpDays").AsInteger();
+    return true;
+}
+
+// The password comes first, so that an account's status is not told to whoever does not know it.
+bool passwordAndStatusPass(const Statement& user) {
+    if (user.FieldByName("UserPswd").AsString() != sli_UserPswd.trimmed()) {
+        errorBox(QStringLiteral("Log-in Process"), QStringLiteral("Password is INVALID"));
+        return refuse(QStringLiteral("Password INVALID"));
+    }
+    if (user.FieldByName("Status").AsString() != QLatin1String("A")) {
+        errorBox(QStringLiteral("Log-in Process"),
+                 QStringLiteral("The User as marked as INACTIVE"));
+        return false;
+    }
+    return true;
+}
+
+void loadUser(const Statement& user) {
+    copyText(user, userColumns);
+    for (const auto& [column, value] : userLimits) {
+        *value = user.FieldByName(QLatin1String(column)).AsFloat();
+    }
+    gUserID = user.FieldByName("UserID").AsInteger();
+    gUserPswd = sli_UserPswd;
+    if (gDefaultPrinter.isEmpty()) {
+        gDefaultPrinter = QStringLiteral("Generic / Text Only");
+    }
+    if (gDefTillNo.trimmed().isEmpty()) {
+        gDefTillNo = QStringLiteral("999");
+    }
+}
+
+// By the user's own company and branch, not by those of the log-in.
+void loadCashOfficeTill(Statement& query) {
+    query.NewRead();
+    query.SQL.Add("SELECT * FROM POSCOFTillMst WITH (NOLOCK) ");
+    query.SQL.Add(" WHERE [CO] = " + QuotedStr(sli_UDefCO));
+    query.SQL.Add("   AND [Branch] = " + QuotedStr(sli_UDefBranch));
+    query.SQL.Add("   AND [VisUser] = " + QuotedStr(gUserCode));
+    query.Open();
+    if (!query.IsEmpty()) {
+        gCOFTillNo = query.FieldByName("COFTillNo").AsString();
+        gCOFName = query.FieldByName("Name").AsString();
+    }
+}
+
+bool runSteps(const QString& xCO, const QString& xBranch) {
+    if (!sli_DBConnect()) {
+        return false;
+    }
+    gDBSPID = gData->VEL_GetSPID();
+    if (!sli_VerifyUser()) {
+        return false;
+    }
+    // After sli_VerifyUser: the user's group is always that of the database row's company.
+    if (!xCO.trimmed().isEmpty() && !xBranch.trimmed().isEmpty()) {
+        sli_DBDefCO = xCO;
+        sli_DBDefBranch = xBranch;
+    }
+    if (!sli_VerifyUserCompany() || !sli_VELMARA_LogIn()) {
+        return false;
+    }
+    if (!moduleIs({"MNU", "SYS", "TSH"}) &&
+        !sfvel_CheckUserAccess(gModCode, moduleRight, QStringLiteral("N"))) {
+        return refuse(QStringLiteral("Access DENIED to this Module"));
+    }
+    return true;
+}
+
+} // namespace
+
+bool sli_LogIn(const QString& xUserCode, const QString& xUserPswd, int xDBaseRecID,
+               const QString& xCO, const QString& xBranch) {
+    gErrorMsg.clear();
+    gLoginResult = QStringLiteral("0");
+    gMinVelDBVersion = QStringLiteral("14.47.41");
+    sli_UserCode = xUserCode;
+    sli_UserPswd = xUserPswd;
+    sli_DBaseRecID = xDBaseRecID;
+    for (QString* value :
+         {&sli_UDefCO, &sli_UDefBranch, &sli_DBDefCO, &sli_DBDefBranch, &sli_DBDefHQBranch}) {
+        value->clear();
+    }
+    if (!runSteps(xCO, xBranch)) {
+        gLoginResult = QStringLiteral("1");
+        return false;
+    }
+    sfg_WriteSession_INIFile(QStringLiteral("DBDisplayName"), gDBDisplayName);
+    gSessionKEY =
+        gCO.trimmed() + QLatin1Char('-') + gBranch.trimmed() + QLatin1Char('-') + gUserCode;
+    sli_Process_Employee_Birthday_SMS();
+    return true;
+}
+
+bool sli_VerifyDatabase(const QString& xDBDisplayName) {
+    return shownAndThrownOn(
+        {"900002", "SQL Error on Table: vcSettings\r", "CMN999", "VerifyDatabase"}, [&] {
+            Statement query(cData->VelmaraCommon);
+            query.NewRead();
+            query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK) ");
+            query.SQL.Add(" WHERE [DisplayName] = " + QuotedStr(xDBDisplayName));
+            query.Open();
+            if (query.IsEmpty()) {
+                return false;
+            }
+            const TextColumn columns[] = {
+                {"RecID", &gDBaseRecID},        {"DisplayName", &gDBDisplayName},
+                {"DBConnector", &gDBConnector}, {"DBDBase", &gDBDBase},
+                {"VReportPath", &gReportPath},  {"SvrCatCode", &gSvrCatCode}};
+            copyText(query, columns);
+            return true;
+        });
+}
+
+bool sli_DBConnect() {
+    Statement& query = cData->vcLoadQuery1;
+    const Fault fault{"500004", "SQL Error on Table: vcSettings\r", "SysLogIn",
+                      "sli_GetCompanySettings"};
+    const bool found = shownAndThrownOn(fault, [&query] {
+        try {
+            query.NewRead();
+            query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK) ");
+            query.SQL.Add(" WHERE [RecID] = " + QuotedStr(sli_DBaseRecID));
+            query.Open();
+            return !query.IsEmpty();
+        } catch (const std::exception& e) {
+            gErrorMsg = QStringLiteral("SQL Error read table : vcSettings\r") + errorText(e);
+            throw;
+        }
+    });
+    if (!found) {
+        return refuse(QStringLiteral("Database Settings NOT FOUND for : ") + gDBDBase);
+    }
+    const TextColumn columns[] = {{"RecID", &gDBaseRecID},
+                                  {"DisplayName", &gDBDisplayName},
+                                  {"DisplayName", &sli_DBDisplayName},
+                                  {"DBConnector", &gDBConnector},
+                                  {"DBDBase", &gDBDBase},
+                                  {"DBHost", &gDBHost},
+                                  {"DBUser", &gDBUser},
+                                  {"DBPswd", &gDBPswd},
+                                  {"DBOnAzure", &gDBOnAzure},
+                                  {"DefCO", &gDBDefCO},
+                                  {"DefCO", &sli_DBDefCO},
+                                  {"DefBranch", &gDBDefBranch},
+                                  {"DefBranch", &sli_DBDefBranch},
+                                  {"DefHQBranch", &gDBDefHQBranch},
+                                  {"DefHQBranch", &sli_DBDefHQBranch}};
+    copyText(query, columns);
+    query.Close();
+    return gData->ConnectDB_VEL(gDBConnector, gDBHost, gDBDBase, gDBUser, gDBPswd, gDBOnAzure);
+}
+
+// A fault while reading the user is shown, and the log-in goes on with the user not loaded; the
+// right to the company then refuses it.
+bool sli_VerifyUser() {
+    Statement query(gData->Velmara);
+    try {
+        query.NewRead();
+        query.SQL.Add("SELECT * FROM SysUser WITH (NOLOCK) ");
+        query.SQL.Add(" WHERE [UserCode] = " + QuotedStr(sli_UserCode));
+        query.Open();
+    } catch (const std::exception& e) {
+        show({"999999", "SQL Error reading Table: SysUser\r", faultUnit, "sli_VerifyUser"}, e);
+        query.Close();
+        return true;
+    }
+    if (query.IsEmpty()) {
+        return refuse(QStringLiteral("The User Code is INVALID"));
+    }
+    gUserGroup = query.FieldByName("UserGroup").AsString();
+    const Fault groupFault{"999999", "SQL Error reading Table: SysUserGroup\r", faultUnit,
+                           "sli_VerifyUser"};
+    if (!shownAsFalse(groupFault, loadUserGroup) || !passwordAndStatusPass(query)) {
+        return false;
+    }
+    loadUser(query);
+    const Fault tillFault{"999999", "SQL Error on Table: POSCOFTillMst :-\r", "MAIN000",
+                          "Get_CashOffice_Data"};
+    return shownAsFalse(tillFault, [&query] {
+        loadCashOfficeTill(query);
+        return true;
+    });
+}
+
+bool sli_VerifyUserCompany() {
+    if (moduleIs({"UTL"})) {
+        gCO = sli_DBDefCO;
+        gBranch = sli_DBDefBranch;
+        return true;
+    }
+    return shownAndThrownOn(
+        {"999999", "SQL Error reading Table: SysUserComp\r", faultUnit, "sli_VerifyUserCompany"},
+        [] {
+            Statement query(gData->Velmara);
+            query.NewRead();
+            query.SQL.Add("SELECT * FROM SysUserComp WITH (NOLOCK) ");
+            query.SQL.Add(" WHERE [UserCode] = " + QuotedStr(gUserCode));
+            query.SQL.Add("   AND [CO] = " + QuotedStr(sli_DBDefCO));
+            query.SQL.Add("   AND [Branch] = " + QuotedStr(sli_DBDefBranch));
+            query.Open();
+            if (query.IsEmpty()) {
+                return refuse(
+                    QStringLiteral(
+                        "This User is NOT Allowed Access to :-\rCompany : %1 - Branch : %2")
+                        .arg(sli_DBDefCO, sli_DBDefBranch));
+            }
+            gCO = query.FieldByName("CO").AsString();
+            gBranch = query.FieldByName("Branch").AsString();
+            gCmbCO = gCO;
+            gCmbBranch = gBranch;
+            return true;
+        });
+}
