@@ -1,0 +1,199 @@
+#include "data/DataModules.h"
+#include "data/DateTimeText.h"
+#include "data/Session.h"
+#include "security/CMN999.h"
+#include "security/SysLogInForms.h"
+#include "support/Desk.h"
+#include "support/ScreenChecks.h"
+#include "support/ScriptedUser.h"
+
+#include <QComboBox>
+
+#include <gtest/gtest.h>
+
+using velcro::test::Desk;
+
+namespace {
+
+class LogInScreensTest : public testing::Test
+{
+protected:
+    void SetUp() override {
+        cData->ConnectDB_Common();
+        gEXETitle = QStringLiteral("Velmara Retail Software: Customer Repair Orders");
+    }
+
+    /// What the screen says after OK was pressed with these entries.
+    QString refusal(TfrmCMN999&, const QString& code, const QString& password) {
+        user.typeInto("edUserCode", code);
+        user.typeInto("edUserPswd", password);
+        user.click("btnOK");
+        return user.message();
+    }
+
+    Desk desk{Desk::Start::Configured};
+    ScriptedUser user;
+};
+
+} // namespace
+
+TEST_F(LogInScreensTest, signsInByKeyboardAlone) {
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        EXPECT_TRUE(namelessControls(form).isEmpty())
+            << namelessControls(form).join('\n').toStdString();
+        EXPECT_TRUE(clippedControls(form).isEmpty())
+            << clippedControls(form).join('\n').toStdString();
+        EXPECT_EQ(user.focus(), "edUserCode");
+        user.type("counter1");
+        user.press(Qt::Key_Return);
+        user.press(Qt::Key_Return);
+        EXPECT_TRUE(form.isVisible()) << "Enter with a blank password does nothing";
+        EXPECT_EQ(user.message(), "");
+        user.type("counter");
+        keepPicture(form, "log-in");
+        user.press(Qt::Key_Return);
+    });
+    EXPECT_EQ(form.xReturn, "OK");
+    EXPECT_EQ(gUserCode, "COUNTER1");
+    EXPECT_EQ(gBranch, "100");
+    EXPECT_TRUE(desk.shown.isEmpty()) << desk.shown.join('\n').toStdString();
+}
+
+TEST_F(LogInScreensTest, refusesInTheOrderOfTheFields) {
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        EXPECT_EQ(refusal(form, " ", "X"), "User Code Cannot be Blank");
+        EXPECT_EQ(user.focus(), "edUserCode");
+        EXPECT_EQ(refusal(form, "COUNTER1", " "), "Please enter your Password");
+        EXPECT_EQ(user.focus(), "edUserPswd");
+        EXPECT_EQ(refusal(form, "KORVAL", "KORVAL"), "The KORVAL user code is RESERVED");
+        EXPECT_EQ(refusal(form, "KORVALA", "KORVAL"), "The KORVAL user code is RESERVED");
+        EXPECT_EQ(refusal(form, "NOBODY", "X"), "The User Code is INVALID");
+        EXPECT_EQ(refusal(form, "COUNTER1", "WRONG"), "Password INVALID");
+        EXPECT_EQ(refusal(form, "INACTIVE", "INACTIVE"), "");
+        EXPECT_EQ(desk.shown.last(), "box|The User as marked as INACTIVE");
+        EXPECT_EQ(refusal(form, "NORIGHT", "NORIGHT"), "Access DENIED to this Module");
+        user.find<QComboBox>("cmbDatabase").setCurrentIndex(4);
+        EXPECT_EQ(refusal(form, "BOTHCO", "BOTHCO"),
+                  "Accounting Period NOT Defined for Date : " + sfg_Date(0));
+        user.press(Qt::Key_Escape);
+        EXPECT_TRUE(form.isVisible()) << "only OK and Cancel end the log-in";
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(form.xReturn, "CANCEL");
+}
+
+TEST_F(LogInScreensTest, injectionTextsAreRefusedOrHarmless) {
+    const QString users = Desk::suite("SELECT COUNT(*) FROM SYSUser");
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        for (const char* text : {"' OR 1=1--", "';DROP--", "''''", "\"]--", "%", "A'/*", "\\'"}) {
+            EXPECT_EQ(refusal(form, text, text), "The User Code is INVALID") << text;
+            EXPECT_EQ(refusal(form, "COUNTER1", text), "Password INVALID") << text;
+        }
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(Desk::suite("SELECT COUNT(*) FROM SYSUser"), users);
+}
+
+TEST_F(LogInScreensTest, theDefaultPasswordMustBeChanged) {
+    TfrmCMN999 form;
+    user.expectForm("Change System Password", [&] {
+        EXPECT_TRUE(namelessControls(user.form()).isEmpty());
+        EXPECT_EQ(user.sees("edUser"), "NEWUSER - Wendel Harkaby");
+        const struct
+        {
+            const char *first, *second, *refusal;
+        } entries[] = {
+            {"", "", "Passwords cannot be Blank"},
+            {"FRESH1", " ", "Passwords cannot be Blank"},
+            {"FRESH1", "FRESH2", "The Two Passwords DONT Match"},
+            {"XQZ741", "XQZ741", "Password cannot be the Default Password"},
+        };
+        for (const auto& [first, second, refusal] : entries) {
+            user.typeInto("edPswd1", first);
+            user.typeInto("edPswd2", second);
+            user.click("btnOK");
+            EXPECT_EQ(user.message(), refusal);
+            EXPECT_EQ(user.focus(), "edPswd1");
+        }
+        keepPicture(user.form(), "change-password");
+        user.typeInto("edPswd1", "fresh1");
+        user.typeInto("edPswd2", "fresh1");
+        user.press(Qt::Key_Return);
+    });
+    user.expectForm("System Message", [&] { user.press(Qt::Key_Return); });
+    user.workIn(form, [&] { refusal(form, "NEWUSER", "XQZ741"); });
+    EXPECT_EQ(form.xReturn, "OK");
+    EXPECT_EQ(Desk::suite("SELECT UserPswd FROM SYSUser WHERE UserCode = 'NEWUSER'"), "FRESH1");
+    EXPECT_EQ(Desk::suite("SELECT PswdDate FROM SYSUser WHERE UserCode = 'NEWUSER'"), sfg_Date(0));
+}
+
+TEST_F(LogInScreensTest, anExpiredPasswordMustBeChangedAndARefusalLeavesTheScreen) {
+    TfrmCMN999 form;
+    user.expectForm("Change System Password", [&] { user.click("btnCancel"); });
+    user.expectForm("Change System Password", [&] { user.press(Qt::Key_Escape); });
+    user.workIn(form, [&] {
+        refusal(form, "EXPIRED", "EXPIRED");
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(user.focus(), "edUserCode");
+        user.click("btnOK");
+        EXPECT_TRUE(form.isVisible()) << "demanded again";
+        Desk::onSuite("UPDATE SYSUser SET PswdDate = '" + sfg_Date(-30) +
+                      "' WHERE UserCode = 'EXPIRED'");
+        user.click("btnOK");
+    });
+    EXPECT_EQ(form.xReturn, "OK") << "still good on the expiry date itself";
+}
+
+TEST_F(LogInScreensTest, theDatabaseIsPickedByTypingAndRemembered) {
+    TfrmCMN999 form;
+    user.expectForm("Select Log-in Database ", [&] {
+        EXPECT_TRUE(namelessControls(user.form()).isEmpty());
+        EXPECT_EQ(user.column("Company").size(), 5);
+        user.type("harb");
+        EXPECT_EQ(user.column("Company"), QStringList("Brindavel Harbour Row"));
+        user.press(Qt::Key_Escape);
+        EXPECT_EQ(user.column("Company").size(), 5) << "Escape closes the find panel first";
+        user.type("mall");
+        user.press(Qt::Key_Return);
+    });
+    user.workIn(form, [&] {
+        EXPECT_EQ(user.sees("cmbDatabase"), "Brindavel Central Workshop");
+        user.press(Qt::Key_F1);
+        EXPECT_EQ(user.sees("cmbDatabase"), "Brindavel Northfold Mall");
+        EXPECT_EQ(user.focus(), "edUserCode");
+        refusal(form, "COUNTER3", "COUNTER3");
+    });
+    ASSERT_EQ(form.xReturn, "OK");
+    EXPECT_EQ(gBranch, "102");
+    gSessionKEY = QStringLiteral("01-100");
+    TfrmCMN999 again;
+    user.workIn(again, [&] {
+        EXPECT_EQ(user.sees("cmbDatabase"), "Brindavel Northfold Mall");
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(LogInScreensTest, anEmptyListOfDatabasesLeavesTheFormUp) {
+    Statement statement(cData->VelmaraCommon);
+    statement.SQL.Add("DELETE FROM vcSettings");
+    statement.ExecSQL();
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        EXPECT_EQ(desk.shown.last(), "900002|There are NO Company/Branches Loaded on the System");
+        EXPECT_EQ(refusal(form, "COUNTER1", "COUNTER"), "Select the Log-In Company");
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(LogInScreensTest, theFingerprintSettingsPickTheScreen) {
+    gBDActive = QStringLiteral("N");
+    user.expectForm("Log-In : " + gEXETitle, [&] { user.click("btnCancel"); });
+    EXPECT_FALSE(slif_Show_LogInForm());
+    gBDActive = QStringLiteral("Y");
+    gBDDeviceCode = QStringLiteral("01");
+    user.expectForm("Log-In : " + gEXETitle, [&] { user.click("btnCancel"); });
+    EXPECT_FALSE(slif_Show_LogInForm()) << "the standard screen is the fall-back";
+}
