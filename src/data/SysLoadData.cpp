@@ -72,10 +72,6 @@ void addLeadingItems(QComboBox& combo, const QString& xALL) {
     }
 }
 
-QString formatted(const char* format, const QString& first, const QString& second = {}) {
-    return QString::fromLatin1(format).arg(first, second);
-}
-
 } // namespace
 
 void sld_LoadCombo(const QString& xTable, QComboBox& cmbCombo, const QString& xALL,
@@ -137,8 +133,9 @@ namespace {
 void refuseSeriesKey(const char* name, const QString& value, int longest) {
     const QString place = QStringLiteral("SysLoadData.sld_GenerateDocNo] ");
     if (value.trimmed().isEmpty()) {
-        throw VelmaraError(place +
-                           formatted("Invalid %1 parameter: empty or null.", QLatin1String(name)));
+        throw VelmaraError(
+            place +
+            QStringLiteral("Invalid %1 parameter: empty or null.").arg(QLatin1String(name)));
     }
     if (value.trimmed().size() > longest) {
         throw VelmaraError(place + QStringLiteral("%1 parameter exceeds %2 characters: \"%3\".")
@@ -150,9 +147,9 @@ QString numberOfRow(const Statement& row, const QString& xModCode, const QString
     try {
         const int number = row.FieldByName("NUMBER").AsInteger();
         if (number == 0) {
-            throw VelmaraError(formatted("SysLoadData.sld_GenerateDocNo] Failed to generate "
-                                         "document number for \"%1\"/\"%2\".",
-                                         xModCode, xTxTp));
+            throw VelmaraError(QStringLiteral("SysLoadData.sld_GenerateDocNo] Failed to generate "
+                                              "document number for \"%1\"/\"%2\".")
+                                   .arg(xModCode, xTxTp));
         }
         return QString::number(number);
     } catch (const std::exception& error) {

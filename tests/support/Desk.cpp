@@ -7,6 +7,7 @@
 #include "data/DateTimeText.h"
 #include "data/Prompts.h"
 #include "data/Session.h"
+#include "data/StatementText.h"
 #include "platform/seat/Folders.h"
 
 #include <QDate>
@@ -72,6 +73,16 @@ QString templateSeat() {
     return templates.filePath(name);
 }
 
+// As another seat would: over a connection of its own.
+void runOn(const QString& database, const QString& statement) {
+    Connection other(ConnectionOptions{});
+    other.setConnectString(sfg_BuildUNIConnectionStr(gCmnHost, database, {}, {}, {}, {}));
+    other.Connect();
+    Statement work(other);
+    work.SQL.Add(statement);
+    work.ExecSQL();
+}
+
 QString firstField(Connection& connection, const QString& select) {
     Statement query(connection);
     query.SQL.Add(select);
@@ -90,6 +101,8 @@ Desk::Desk(Start start) {
         shown.append("box|" + text);
     };
     createDataModules();
+    // The sample names the folder that it was made in.
+    onCommon("UPDATE vcSettings SET [DBHost] = " + QuotedStr(gCmnHost));
     if (start == Start::Connected) {
         connect();
     }
@@ -161,12 +174,11 @@ QString Desk::common(const QString& select) {
 }
 
 void Desk::onSuite(const QString& statement) {
-    Connection other(ConnectionOptions{});
-    other.setConnectString(sfg_BuildUNIConnectionStr(gCmnHost, "VELSUITE", {}, {}, {}, {}));
-    other.Connect();
-    Statement work(other);
-    work.SQL.Add(statement);
-    work.ExecSQL();
+    runOn("VELSUITE", statement);
+}
+
+void Desk::onCommon(const QString& statement) {
+    runOn("VELCOMMON", statement);
 }
 
 void signIn(const QString& user, const QString& company, const QString& branch) {

@@ -33,8 +33,9 @@ public:
     /// First field of the first row; blank without a row.
     static QString suite(const QString& select);
     static QString common(const QString& select);
-    /// Runs a statement on the suite database, as another seat would.
+    /// Run a statement as another seat would.
     static void onSuite(const QString& statement);
+    static void onCommon(const QString& statement);
 
     /// Texts of the error dialogs and boxes that were shown, as "number|text" and "box|text".
     QStringList shown;

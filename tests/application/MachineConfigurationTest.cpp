@@ -1,0 +1,123 @@
+#include "application/MachineConfiguration.h"
+
+#include "application/SessionFile.h"
+#include "data/Session.h"
+#include "platform/seat/Folders.h"
+#include "support/TempFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class MachineConfigurationTest : public testing::Test
+{
+protected:
+    MachineConfigurationTest() {
+        velcro::seat::setProgramFilesRoots({first, second});
+        gDBConnector = "SQLOLEDB.1";
+        gErrorMsg.clear();
+    }
+    ~MachineConfigurationTest() override { velcro::seat::setProgramFilesRoots({}); }
+
+    static void write(const QString& root, const QByteArray& text) {
+        const QString path = root + "/Common Files/Microsoft Shared/MSHelp16/MSHelp16.cnf";
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    void read(const QByteArray& text) const {
+        write(second, text);
+        ASSERT_TRUE(sfg_ReadSysReg()) << gErrorMsg.toStdString();
+    }
+
+    velcro::test::TempFolder folder;
+    const QString first = QString::fromStdString(folder.file("Program Files"));
+    const QString second = QString::fromStdString(folder.file("Program Files (x86)"));
+};
+
+} // namespace
+
+TEST_F(MachineConfigurationTest, everyMissingStageIsToldAndNothingIsMade) {
+    for (const char* stage :
+         {"", "Common Files/Microsoft Shared", "Common Files/Microsoft Shared/MSHelp16"}) {
+        if (*stage) {
+            QDir().mkpath(first + "/" + stage);
+        }
+        gCmnHost = "kept";
+        EXPECT_FALSE(sfg_ReadSysReg());
+        EXPECT_TRUE(gErrorMsg.startsWith("The machine configuration file was not found"))
+            << gErrorMsg.toStdString();
+        EXPECT_EQ(gCmnHost, "kept");
+    }
+    EXPECT_FALSE(QFileInfo::exists(second));
+    write(first, "[Common]\nHost=h\n");
+    EXPECT_TRUE(sfg_ReadSysReg());
+    QDir().mkpath(second);
+    EXPECT_FALSE(sfg_ReadSysReg()) << "the second folder wins, also without the file";
+}
+
+TEST_F(MachineConfigurationTest, aGarbledFileIsToldAndNothingIsRead) {
+    gCmnHost = "kept";
+    write(second, "[Common]\nHost=new\nthis is no setting\n");
+    EXPECT_FALSE(sfg_ReadSysReg());
+    EXPECT_TRUE(gErrorMsg.contains("garbled in line 3")) << gErrorMsg.toStdString();
+    EXPECT_EQ(gCmnHost, "kept");
+}
+
+TEST_F(MachineConfigurationTest, missingKeysHaveTheirDefaults) {
+    read("[Common]\nHost=h\n");
+    const std::vector<std::pair<QString, const char*>> defaults = {{gRegFmt, "A"},
+                                                                   {gCmnAzure, "N"},
+                                                                   {gLocStandAlone, "Y"},
+                                                                   {gTillAzure, "N"},
+                                                                   {gScaleBaudRate, "9600"},
+                                                                   {gScaleDataBits, "8"},
+                                                                   {gScaleStopBits, "1"},
+                                                                   {gScaleParity, "None"},
+                                                                   {gScaleMachine, "Others"},
+                                                                   {gTillCardDeviceType, "M"},
+                                                                   {gBDActive, "N"},
+                                                                   {gCO, ""},
+                                                                   {gSessionKEY, "-"},
+                                                                   {gTillAllowDBConnect, "N"},
+                                                                   {gRevmaxActive, "N"}};
+    for (std::size_t i = 0; i < defaults.size(); ++i) {
+        EXPECT_EQ(defaults[i].first, defaults[i].second) << "value " << i;
+    }
+}
+
+TEST_F(MachineConfigurationTest, connectorsFollowEachOther) {
+    read("[Common]\nConnector=C\n[Local]\nConnector=L\n[Till]\nConnector=T\n");
+    EXPECT_EQ(gCmnConnector + gLocConnector + gVELConnector, "CLT");
+    read("[Local]\nConnector=L\n[Till]\nHost=x\n");
+    EXPECT_EQ(gVELConnector, "") << "a blank till connector stays blank";
+    EXPECT_EQ(gLocConnector, "SQLOLEDB.1") << "and replaces the local one";
+    EXPECT_EQ(gCmnConnector, "SQLOLEDB.1");
+}
+
+TEST_F(MachineConfigurationTest, allServersMeansNoCategory) {
+    read("[Common]\nSvrCat=ALL\n");
+    EXPECT_EQ(gSvrCatCode, "");
+    read("[Common]\nSvrCat=all\n");
+    EXPECT_EQ(gSvrCatCode, "all");
+}
+
+TEST_F(MachineConfigurationTest, eachTillHasAMemoryOfItsOwn) {
+    gEXEPath = QString::fromStdString(folder.path().string()) + "/";
+    gModCode = "CRO";
+    QDir(gEXEPath).mkdir("Session");
+    read("[Till]\nCompany= 01 \nBranch=100\n");
+    EXPECT_EQ(gSessionKEY, "01-100");
+    sfg_WriteSession_INIFile("DBDisplayName", "Shop [one]");
+    EXPECT_TRUE(QFileInfo::exists(gEXEPath + "Session/velSSN-01-100.ini"));
+    EXPECT_EQ(sfg_ReadSession_INIFile("DBDisplayName"), "Shop [one]");
+    read("[Common]\nHost=h\n");
+    EXPECT_EQ(sfg_ReadSession_INIFile("DBDisplayName"), "");
+    sfg_WriteSession_INIFile("DBDisplayName", "Other");
+    EXPECT_TRUE(QFileInfo::exists(gEXEPath + "Session/velSSN--.ini"));
+}
