@@ -19,7 +19,7 @@ endif()
 
 if(NOT MSVC)
   add_compile_options(-Wall -Wextra -Werror)
-  if(CCACHE)
+  if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fpch-preprocess)
   endif()
 endif()
@@ -33,4 +33,8 @@ if(VELCRO_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(VELCRO_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

@@ -247,7 +247,7 @@ struct Window
     bool hasFrame = false;
     bool frameIsRows = true; // else RANGE
     FrameBound from;
-    FrameBound to{FrameBound::Kind::CurrentRow, nullptr};
+    FrameBound to;
 };
 /// A call of a function, also of an aggregate (COUNT(*) has one Star argument) and of those without
 /// brackets (current_timestamp). The first argument of DATEADD, DATEDIFF, DATENAME and DATEPART is a

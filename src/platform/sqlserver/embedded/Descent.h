@@ -111,7 +111,7 @@ private:
     // Queries: ParserSelect.cpp, ParserFrom.cpp
     QueryPtr query();
     QueryPtr bracketedQuery();
-    bool atQuery() const;
+    bool atQuery(std::size_t ahead = 0) const;
     QueryBodyPtr queryBody();
     QueryBodyPtr intersection();
     QueryBodyPtr queryTerm();

@@ -459,7 +459,9 @@ void raiseUnsupported(std::string_view construct, int line, int column) {
     if (line > 0) {
         what += " (line " + std::to_string(line) + ", column " + std::to_string(column) + ")";
     }
-    raise(unsupportedNumber, {what}, line);
+    SqlMessage message = serverMessage(unsupportedNumber, {what}, line);
+    message.column = column;
+    throw Fault(std::move(message));
 }
 
 std::string_view sqlStateOf(int number) {

@@ -139,6 +139,8 @@ DropIndex Descent::dropIndex() {
         if (parts.empty()) {
             in_.expect(Keyword::On);
             item.table = objectName();
+        } else if (parts.back().empty()) {
+            in_.refuseAt(item.offset); // t..ix
         } else {
             item.table = objectNameOf(std::move(parts), item.offset);
         }

@@ -57,7 +57,7 @@ ExprPtr Descent::literal() {
 ExprPtr Descent::bracketed() {
     const Level level(*this);
     const Place place = here();
-    if (in_.isAt(1, Keyword::Select)) {
+    if (atQuery(1)) {
         return node(ScalarQuery{bracketedQuery()}, place);
     }
     in_.expect(Op::Open);
@@ -261,6 +261,7 @@ void Descent::frame(Window& window) {
         window.to = frameBound();
     } else {
         window.from = frameBound();
+        window.to.kind = FrameBound::Kind::CurrentRow;
     }
 }
 

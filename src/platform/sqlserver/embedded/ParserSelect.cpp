@@ -42,8 +42,18 @@ QueryPtr Descent::bracketedQuery() {
     return inner;
 }
 
-bool Descent::atQuery() const {
-    return in_.is(Keyword::Select);
+/// A query may begin with a bracket, as a value may; then a set operator behind it tells.
+bool Descent::atQuery(std::size_t ahead) const {
+    std::size_t first = ahead;
+    while (in_.isAt(first, Op::Open)) {
+        ++first;
+    }
+    if (first == ahead || !in_.isAt(first, Keyword::Select)) {
+        return in_.isAt(ahead, Keyword::Select);
+    }
+    const std::size_t behind = in_.behindBracket(ahead);
+    return in_.isAt(behind, Keyword::Union) || in_.isAt(behind, Keyword::Except) ||
+           in_.isAt(behind, Keyword::Intersect);
 }
 
 // body := intersection {(UNION [ALL] | EXCEPT) intersection}

@@ -246,7 +246,8 @@ std::vector<IndexColumn> Descent::indexColumns() {
 std::vector<IndexOption> Descent::indexOptions() {
     std::vector<IndexOption> options;
     const auto option = [&] {
-        const bool known = in_.isName() || in_.isWordNow("FILLFACTOR");
+        const bool known =
+            in_.is(TokenKind::Identifier) && (in_.is(Keyword::None) || in_.isWordNow("FILLFACTOR"));
         if (!known) {
             in_.refuseHere();
         }

@@ -6,8 +6,7 @@
 
 namespace velcro::sql::tsql {
 
-TokenStream::TokenStream(std::string_view text, std::uint32_t firstLine)
-    : text_(text) {
+TokenStream::TokenStream(std::string_view text, std::uint32_t firstLine) {
     items_.reserve(text.size() / 4 + 2);
     Lexer lexer(text, firstLine);
     std::uint32_t literals = 0;
@@ -27,6 +26,15 @@ std::uint32_t TokenStream::endOfLast() const {
     }
     const Token& last = items_[at_ - 1].token;
     return last.at.offset + static_cast<std::uint32_t>(last.text.size());
+}
+
+std::size_t TokenStream::behindBracket(std::size_t ahead) const {
+    int open = 0;
+    do {
+        open += isAt(ahead, Op::Open) ? 1 : isAt(ahead, Op::Close) ? -1 : 0;
+        ++ahead;
+    } while (open > 0 && !isAt(ahead, TokenKind::End));
+    return ahead;
 }
 
 bool TokenStream::isName() const {
@@ -81,7 +89,12 @@ std::string TokenStream::expectName() {
     if (!isName()) {
         refuseHere();
     }
-    return tokenValue(take().token);
+    std::string name = tokenValue(token());
+    if (name.empty()) {
+        refuseWith(1038, {});
+    }
+    take();
+    return name;
 }
 
 std::string TokenStream::expectVariable() {

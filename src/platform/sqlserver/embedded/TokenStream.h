@@ -30,7 +30,6 @@ public:
     std::uint32_t line() const { return token().at.line; }
     /// Where the token that was taken last ends.
     std::uint32_t endOfLast() const;
-    std::string_view text() const { return text_; }
 
     bool is(Keyword keyword) const { return current().keyword == keyword; }
     bool is(Op op) const { return token().op == op; }
@@ -42,6 +41,8 @@ public:
     bool isWordAt(std::size_t ahead, std::string_view word) const {
         return isWord(item(ahead).token, word);
     }
+    /// How far ahead the token stands that follows the bracket which closes the one at ahead.
+    std::size_t behindBracket(std::size_t ahead) const;
     /// A word that is not reserved, or a quoted or bracketed name.
     bool isName() const;
 
@@ -73,7 +74,6 @@ private:
     }
     [[noreturn]] void refuseItem(std::size_t index) const;
 
-    std::string_view text_;
     std::vector<Item> items_; // the last is End
     std::size_t at_ = 0;
 };

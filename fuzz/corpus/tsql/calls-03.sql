@@ -1,0 +1,1 @@
+SELECT current_timestamp as SDate, GETDATE(), @@SPID

@@ -1,0 +1,1 @@
+ALTER TABLE [dbo].[t] ADD [c] nvarchar(10) NOT NULL DEFAULT '' WITH VALUES

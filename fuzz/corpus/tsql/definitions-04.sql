@@ -1,0 +1,1 @@
+ALTER TABLE [dbo].[t]  ADD CONSTRAINT [t_idx00] PRIMARY KEY ([RecID])

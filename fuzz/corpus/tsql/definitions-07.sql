@@ -1,0 +1,1 @@
+ALTER TABLE [dbo].[t]  DROP COLUMN [c], d

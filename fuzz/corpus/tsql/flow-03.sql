@@ -1,0 +1,1 @@
+IF @a = 1 BEGIN SELECT 1 SELECT 2 END; ELSE IF @a = 2 PRINT 'x' + @b

@@ -1,0 +1,1 @@
+WHILE @i < 3 BEGIN SET @i += 1 IF @i = 2 CONTINUE BREAK END

@@ -1,0 +1,1 @@
+EXECUTE @r = db.dbo.p 1, -2, @b = N'x', @c = @d OUTPUT, @e = DEFAULT, @f = word

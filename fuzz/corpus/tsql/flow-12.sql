@@ -1,0 +1,1 @@
+sp_rename 'a', 'b'; EXEC ('SELECT ' + @x); USE [master]

@@ -1,0 +1,1 @@
+SELECT a WHERE (a = 1 OR b = 2) AND c IS NOT NULL AND d IS NULL

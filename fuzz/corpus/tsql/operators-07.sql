@@ -1,0 +1,1 @@
+SELECT a WHERE a IN ('O', 'N') AND b NOT IN (SELECT c FROM t)

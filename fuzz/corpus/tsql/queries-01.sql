@@ -1,0 +1,1 @@
+SELECT TOP(2000) [Account], [Name] FROM DEBMaster WITH (NOLOCK) WHERE [CO] = '1' ORDER BY [Name]

@@ -1,0 +1,1 @@
+SELECT 1 FROM a JOIN b JOIN c ON b.x = c.x ON a.x = b.x CROSS JOIN d FULL JOIN e ON 1 = 1 RIGHT JOIN f ON 2 = 2 CROSS APPLY g(a.x) h

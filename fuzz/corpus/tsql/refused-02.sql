@@ -1,0 +1,2 @@
+SELECT *
+  FRM t WHERE a = 1

@@ -1,0 +1,1 @@
+INSERT INTO t ( [a], b ) VALUES ( 'x', 1 ), (NULL, DEFAULT)

@@ -1,0 +1,1 @@
+INSERT t (SELECT 1)

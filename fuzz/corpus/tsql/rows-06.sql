@@ -1,0 +1,1 @@
+UPDATE vcVersions SET [Version] = '2',[LastPCName] = 'PC' WHERE [Suite] = 'S'

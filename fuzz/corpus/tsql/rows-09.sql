@@ -1,0 +1,1 @@
+DELETE T0 FROM t T0 JOIN u ON u.a = T0.a WHERE u.b = 1

@@ -1,0 +1,1 @@
+MERGE INTO SYSSaveGrids AS [Target] USING (VALUES (:CO, :UserCode)) AS [Source] ([CO], [UserCode]) ON Target.CO = Source.CO WHEN MATCHED THEN UPDATE SET [GridSettings] = :G WHEN NOT MATCHED THEN INSERT ([CO], [UserCode]) VALUES (:CO, :UserCode);
