@@ -101,8 +101,10 @@ void apply(const DatabaseFile& file, const char* pragma) {
 }
 
 /// The first read tells whether the file is a database at all, before anything could be written.
-void prepareForUse(const DatabaseFile& file) {
-    sqlite3_busy_timeout(file.handle.get(), lockTimeoutMilliseconds);
+void prepareForUse(const DatabaseFile& file, int connectTimeoutSeconds) {
+    const bool limited = connectTimeoutSeconds > 0;
+    sqlite3_busy_timeout(file.handle.get(),
+                         limited ? connectTimeoutSeconds * 1000 : lockTimeoutMilliseconds);
     apply(file, "SELECT count(*) FROM sqlite_schema");
     if (!file.readOnly) {
         const int code = useWriteAheadLog(file.handle.get());
@@ -115,6 +117,7 @@ void prepareForUse(const DatabaseFile& file) {
     apply(file, "PRAGMA temp_store = MEMORY");
     apply(file, "PRAGMA cache_size = -32768");
     apply(file, "PRAGMA mmap_size = 268435456");
+    sqlite3_busy_timeout(file.handle.get(), lockTimeoutMilliseconds);
 }
 
 DatabaseFile openFile(const fs::path& path, int flags) {
@@ -162,7 +165,7 @@ DatabaseFile openDatabaseFile(const ConnectionSettings& settings) {
     const int access = settings.readOnlyIntent ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     auto file =
         openFile(path.value_or(folder / fromUtf8(settings.database + ".sqlite")), access | create);
-    prepareForUse(file);
+    prepareForUse(file, settings.connectTimeoutSeconds);
     return file;
 }
 

@@ -249,6 +249,11 @@ Emitter::Fragment Emitter::cast(Fragment operand, const DataType& type, bool isT
         raise(529, {typeName(operand.type), typeName(target)}, line_);
     }
     const Type from = operand.type;
+    if (operand.bind && operand.bind->source == Bind::Source::Literal && !isTry && style == 0) {
+        // Converted as it was written, with the digits it was written with.
+        operand.bind->to = target;
+        return {place(std::move(*operand.bind)), target, false, {}};
+    }
     return {castText(placed(std::move(operand)), from, target, style, isTry), target, false, {}};
 }
 

@@ -145,6 +145,7 @@ private:
     std::shared_ptr<Procedure> procedure(const ObjectName& name);
     void declareParameters(const Procedure& procedure, const std::vector<Given>& given,
                            Frame& frame, Place& place);
+    void passArgument(const std::string& name, const Given& given, Frame& frame);
     Value evaluateKept(const Expr& expr, Place& place, Type& type);
     void callProcedure(const std::shared_ptr<Procedure>& procedure, const std::vector<Given>& given,
                        const std::string& result, Place& place);

@@ -100,7 +100,7 @@ void Session::declareParameters(const Procedure& procedure, const std::vector<Gi
             return value.name.empty() ? position == i : sameName(value.name, parameter.name);
         });
         if (found != given.end() && !found->isDefault) {
-            frame.assign(parameter.name, found->value, found->type, line_);
+            passArgument(parameter.name, *found, frame);
         } else if (parameter.defaultValue) {
             Type type;
             Value value = evaluateKept(*parameter.defaultValue, place, type);
@@ -108,6 +108,20 @@ void Session::declareParameters(const Procedure& procedure, const std::vector<Gi
         } else {
             raise(201, {procedure.name, parameter.name}, line_);
         }
+    }
+}
+
+/// The server has a number of its own for an argument that does not convert.
+void Session::passArgument(const std::string& name, const Given& given, Frame& frame) {
+    constexpr int conversionFailed = 245;
+    try {
+        frame.assign(name, given.value, given.type, line_);
+    } catch (const Fault& fault) {
+        if (fault.number() != conversionFailed) {
+            throw;
+        }
+        raise(8114, {baseTypeName(given.type.id), baseTypeName(frame.require(name, line_).type.id)},
+              line_);
     }
 }
 

@@ -1,0 +1,255 @@
+// What happens when processes meet on one folder, or are stopped in the middle of their work.
+#include "support/ChildProcess.h"
+#include "support/EmbeddedDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <random>
+#include <set>
+#include <thread>
+
+#include <sqlite3.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using velcro::sql::SqlError;
+using velcro::test::ChildProcess;
+using velcro::test::EmbeddedDatabase;
+using velcro::test::TempFolder;
+
+namespace {
+
+/// A database that this process keeps no connection to: SQLite's locks do not outlive a fork.
+class SharedFolder
+{
+public:
+    explicit SharedFolder(const char* setUp) {
+        EmbeddedDatabase::open(path(), true)->execute(setUp);
+    }
+    std::string path() const { return folder_.path().string(); }
+    std::string answer(const std::string& batch) const {
+        return EmbeddedDatabase::answerOf(*EmbeddedDatabase::open(path()), batch);
+    }
+
+private:
+    TempFolder folder_;
+};
+
+constexpr const char* tables = "CREATE TABLE Orders (CRONo int NOT NULL)"
+                               " CREATE TABLE Items (CRONo int NOT NULL, ItemNo int NOT NULL,"
+                               " Notes nvarchar(200) NULL)"
+                               " CREATE INDEX Items_idx01 ON Items (CRONo, ItemNo)";
+constexpr int itemsOfAnOrder = 3;
+
+/// One order with its items as one batch in one transaction, the way the program writes.
+void writeOrder(velcro::sql::SqlConnection& connection, int number) {
+    const std::string no = "'" + std::to_string(number) + "'";
+    std::string batch = "INSERT INTO Orders (CRONo) VALUES (" + no + ") ;\n";
+    for (int item = 1; item <= itemsOfAnOrder; ++item) {
+        batch += "INSERT INTO Items (CRONo, ItemNo, Notes) VALUES (" + no + ", '" +
+                 std::to_string(item) + "', '" + std::string(150, 'n') + "') ;\n";
+    }
+    connection.begin();
+    connection.execute(batch);
+    connection.commit();
+}
+
+std::string halfOrders(const SharedFolder& database) {
+    return database.answer("SELECT COUNT(*) FROM Orders O WHERE (SELECT COUNT(*) FROM Items I"
+                           " WHERE I.CRONo = O.CRONo) <> 3"
+                           " SELECT COUNT(*) FROM Items I WHERE NOT EXISTS"
+                           " (SELECT 1 FROM Orders O WHERE O.CRONo = I.CRONo)");
+}
+
+/// More on request: VELCRO_KILLS=5000.
+int wantedKills() {
+    const char* wanted = std::getenv("VELCRO_KILLS");
+    return wanted != nullptr ? std::atoi(wanted) : 150;
+}
+
+int drawNumbers(const std::string& folder, int report, int count) {
+    const auto connection = EmbeddedDatabase::open(folder);
+    for (int i = 0; i < count; ++i) {
+        const auto rows =
+            connection->query("EXEC VELMARA_GENERATE_NUMBER '01', 'A', 'CRO', 'CROMST'");
+        const std::int32_t number = static_cast<std::int32_t>(rows.integer(0, 0));
+        if (write(report, &number, sizeof number) != sizeof number) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(EmbeddedFaultsTest, aKilledProcessLeavesWholeBatchesAndWhatItConfirmed) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> microseconds(0, 25'000);
+    int lastConfirmed = 0;
+    for (int kill = 0; kill < wantedKills(); ++kill) {
+        const int first = (kill + 1) * 10'000;
+        ChildProcess child([&](int report) {
+            const auto connection = EmbeddedDatabase::open(folder);
+            for (int number = first;; ++number) {
+                writeOrder(*connection, number);
+                if (write(report, &number, sizeof number) != sizeof number) {
+                    return 1;
+                }
+            }
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
+        child.kill();
+        ASSERT_EQ(child.wait(), 128 + SIGKILL);
+        int confirmed = 0;
+        while (read(child.output(), &confirmed, sizeof confirmed) == sizeof confirmed) {
+            lastConfirmed = confirmed;
+        }
+        ASSERT_EQ(halfOrders(database), "0 0") << "after kill " << kill;
+        if (lastConfirmed >= first) {
+            const auto count = std::to_string(lastConfirmed - first + 1);
+            ASSERT_EQ(database.answer("SELECT COUNT(*) FROM Orders WHERE CRONo BETWEEN " +
+                                      std::to_string(first) + " AND " +
+                                      std::to_string(lastConfirmed)),
+                      count)
+                << "after kill " << kill;
+        }
+    }
+    EXPECT_GT(lastConfirmed, 0) << "no child came to write anything";
+}
+
+TEST(EmbeddedFaultsTest, processesDrawDifferentNumbersWithoutAGap) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    constexpr int processes = 8;
+    constexpr int each = 60;
+    std::vector<std::unique_ptr<ChildProcess>> children;
+    for (int i = 0; i < processes; ++i) {
+        children.push_back(std::make_unique<ChildProcess>(
+            [&](int report) { return drawNumbers(folder, report, each); }));
+    }
+    std::set<std::int32_t> drawn;
+    for (const auto& child : children) {
+        std::int32_t number = 0;
+        while (read(child->output(), &number, sizeof number) == sizeof number) {
+            EXPECT_TRUE(drawn.insert(number).second) << number << " was given twice";
+        }
+        EXPECT_EQ(child->wait(), 0);
+    }
+    EXPECT_EQ(drawn.size(), static_cast<std::size_t>(processes * each));
+    EXPECT_EQ(*drawn.rbegin(), processes * each);
+}
+
+TEST(EmbeddedFaultsTest, processesWriteToOneFolder) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    std::vector<std::unique_ptr<ChildProcess>> children;
+    for (int i = 1; i <= 4; ++i) {
+        children.push_back(std::make_unique<ChildProcess>([&folder, i](int) {
+            const auto connection = EmbeddedDatabase::open(folder);
+            for (int number = 0; number < 25; ++number) {
+                writeOrder(*connection, i * 1'000 + number);
+            }
+            return 0;
+        }));
+    }
+    for (const auto& child : children) {
+        EXPECT_EQ(child->wait(), 0);
+    }
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), "100");
+    EXPECT_EQ(halfOrders(database), "0 0");
+}
+
+TEST(EmbeddedFaultsTest, aFullDiskIsToldAndLosesNothingThatWasConfirmed) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    ChildProcess child([&](int report) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const auto connection = EmbeddedDatabase::open(folder);
+        writeOrder(*connection, 1);
+        const rlimit limit{300'000, 300'000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        for (int number = 2; number < 10'000; ++number) {
+            try {
+                writeOrder(*connection, number);
+            } catch (const SqlError& error) {
+                // The program goes on: what is there can be read on the same connection.
+                connection->rollback();
+                const auto rows = connection->query("SELECT COUNT(*) FROM Orders");
+                const int kept = number - 1;
+                const bool told = error.number() != 0 && *error.what() != '\0';
+                const bool sent = write(report, &kept, sizeof kept) == sizeof kept;
+                return told && sent && rows.integer(0, 0) == kept ? 0 : 2;
+            }
+        }
+        return 1;
+    });
+    int kept = 0;
+    EXPECT_EQ(read(child.output(), &kept, sizeof kept), static_cast<ssize_t>(sizeof kept));
+    EXPECT_EQ(child.wait(), 0);
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), std::to_string(kept));
+    EXPECT_EQ(halfOrders(database), "0 0");
+}
+
+TEST(EmbeddedFaultsTest, withoutRightsTheFileIsReadAndNotChanged) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    const bool isRoot = geteuid() == 0;
+    namespace fs = std::filesystem;
+    fs::permissions(folder, fs::perms(0755));
+    // While somebody who may write is connected, the others can read along.
+    ChildProcess keeper([&](int report) {
+        const auto connection = EmbeddedDatabase::open(folder);
+        connection->query("SELECT COUNT(*) FROM Orders");
+        const char ready = 1;
+        return write(report, &ready, 1) == 1 ? pause() : 1;
+    });
+    char ready = 0;
+    ASSERT_EQ(read(keeper.output(), &ready, 1), 1);
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        fs::permissions(entry.path(), isRoot ? fs::perms(0644) : fs::perms(0444));
+    }
+    ChildProcess child([&](int) {
+        constexpr uid_t nobody = 65534;
+        if (isRoot && setuid(nobody) != 0) {
+            return 3;
+        }
+        const auto connection = EmbeddedDatabase::open(folder);
+        const auto answer = [&](const char* batch) {
+            return EmbeddedDatabase::answerOf(*connection, batch);
+        };
+        if (answer("SELECT COUNT(*) FROM Orders") != "0") {
+            return 1;
+        }
+        return answer("INSERT INTO Orders VALUES (1)") == "error 3906" ? 0 : 2;
+    });
+    EXPECT_EQ(child.wait(), 0);
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), "0");
+}
+
+TEST(EmbeddedFaultsTest, aFileThatAnotherProcessKeepsLockedIsToldAfterTheTimeGiven) {
+    const velcro::test::TempFolder folder;
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(folder.file("Shop.sqlite").c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(
+        sqlite3_exec(holder, "CREATE TABLE t (a); BEGIN EXCLUSIVE", nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    velcro::sql::ConnectionSettings settings;
+    settings.server = "embedded:" + folder.path().string();
+    settings.database = "Shop";
+    settings.connectTimeoutSeconds = 1;
+    const auto connection = velcro::sql::createConnection(settings.server);
+    try {
+        connection->connect(settings);
+        ADD_FAILURE() << "connected to a locked file";
+    } catch (const SqlError& error) {
+        EXPECT_EQ(error.number(), 1222);
+        EXPECT_EQ(error.kind(), velcro::sql::SqlErrorKind::NotConnected);
+    }
+    sqlite3_close(holder);
+    EXPECT_NO_THROW(connection->connect(settings));
+}

@@ -1,0 +1,159 @@
+#include "support/EmbeddedDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+using velcro::sql::SqlError;
+using velcro::sql::SqlErrorKind;
+using velcro::test::EmbeddedDatabase;
+using velcro::test::TempFolder;
+
+namespace {
+
+/// Number and kind of what connecting throws, "" when it succeeds.
+std::string refusal(const std::string& folder, const std::string& database, bool create = false) {
+    try {
+        EmbeddedDatabase::open(folder, create, database);
+        return {};
+    } catch (const SqlError& error) {
+        EXPECT_EQ(error.kind(), SqlErrorKind::NotConnected);
+        EXPECT_NE(std::string(error.what()), "");
+        return std::to_string(error.number());
+    }
+}
+
+std::string contents(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+} // namespace
+
+TEST(EmbeddedSessionTest, whatCannotBeOpenedIsToldAndLeftAlone) {
+    const TempFolder folder;
+    const std::string path = folder.path().string();
+    EXPECT_EQ(refusal(path + "/missing", "Shop", true), "53");
+    EXPECT_FALSE(std::filesystem::exists(path + "/missing"));
+    EXPECT_EQ(refusal(path, "Shop"), "4060");
+    EXPECT_EQ(refusal(path, "../Shop", true), "4060");
+    EXPECT_EQ(refusal(path, "", true), "4060");
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+
+    const std::string text =
+        "a letter to a customer, and long enough to be more than a header line";
+    std::ofstream(folder.file("Letter.sqlite")) << text << std::string(500, '.');
+    const std::string before = contents(folder.file("Letter.sqlite"));
+    EXPECT_EQ(refusal(path, "letter", true), "5172");
+    EXPECT_EQ(contents(folder.file("Letter.sqlite")), before);
+
+    EXPECT_EQ(refusal(path, "Shop", true), "");
+    EXPECT_EQ(refusal(path, "SHOP"), "");
+}
+
+TEST(EmbeddedSessionTest, nothingRunsWithoutAConnection) {
+    const EmbeddedDatabase database;
+    const auto connection = database.open();
+    connection->disconnect();
+    EXPECT_FALSE(connection->isConnected());
+    EXPECT_THROW(connection->execute("SELECT 1"), SqlError);
+    EXPECT_THROW(connection->begin(), SqlError);
+}
+
+TEST(EmbeddedSessionTest, aTransactionIsSeenByOthersWhenItIsCommitted) {
+    EmbeddedDatabase database;
+    auto& one = database.connection();
+    const auto other = database.open();
+    one.execute("CREATE TABLE T (a int)");
+    const auto count = [&] { return EmbeddedDatabase::answerOf(*other, "SELECT COUNT(*) FROM T"); };
+
+    one.begin();
+    one.execute("INSERT INTO T VALUES (1)");
+    EXPECT_EQ(count(), "0");
+    one.rollback();
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "0");
+
+    one.begin();
+    one.execute("INSERT INTO T VALUES (1) ; INSERT INTO T VALUES (2)");
+    one.commit();
+    EXPECT_EQ(count(), "2");
+
+    EXPECT_EQ(database.answer("BEGIN TRAN INSERT INTO T VALUES (3) SAVE TRAN s DELETE FROM T"
+                              " ROLLBACK TRAN s COMMIT SELECT COUNT(*) FROM T"),
+              "(1) (3) 3");
+    // A table made in a transaction goes with it.
+    one.begin();
+    one.execute("CREATE TABLE Gone (a int) INSERT INTO Gone VALUES (1)");
+    one.rollback();
+    EXPECT_EQ(database.answer("SELECT * FROM Gone"), "error 208");
+    EXPECT_EQ(count(), "3");
+}
+
+TEST(EmbeddedSessionTest, readingInATransactionLocksNobodyOut) {
+    EmbeddedDatabase database;
+    const auto other = database.open();
+    database.connection().execute("CREATE TABLE T (a int)");
+    database.connection().begin();
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "0");
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, "INSERT INTO T VALUES (1)"), "(1)");
+    EXPECT_EQ(database.answer("INSERT INTO T VALUES (2) SELECT COUNT(*) FROM T"), "(1) 2");
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, "SET LOCK_TIMEOUT 20 INSERT INTO T VALUES (3)"),
+              "error 1222");
+    database.connection().commit();
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, "INSERT INTO T VALUES (3)"), "(1)");
+}
+
+TEST(EmbeddedSessionTest, workWaitsForTheCommitWhereAutoCommitIsOff) {
+    EmbeddedDatabase database;
+    database.connection().execute("CREATE TABLE T (a int)");
+    velcro::sql::ConnectionSettings settings;
+    settings.server = "embedded:" + database.folder().path().string();
+    settings.database = "Shop";
+    settings.autoCommit = false;
+    const auto suite = velcro::sql::createConnection(settings.server);
+    suite->connect(settings);
+    suite->commit(); // nothing waits
+    suite->execute("INSERT INTO T VALUES (1)");
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "0");
+    suite->commit();
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "1");
+    suite->execute("INSERT INTO T VALUES (2)");
+    suite->begin();
+    suite->execute("INSERT INTO T VALUES (3)");
+    suite->commit();
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "3");
+}
+
+TEST(EmbeddedSessionTest, numbersSurviveARollbackAndBeginAfterTheKnownOne) {
+    EmbeddedDatabase database;
+    database.connection().execute(
+        "CREATE TABLE SYSNumbers (CO nvarchar(10) NULL, Branch nvarchar(10) NULL,"
+        " ModCode nvarchar(6) NULL, TxTp nvarchar(12) NULL, Number int NOT NULL)"
+        " INSERT INTO SYSNumbers VALUES ('01', 'A', 'CRO', 'CROMST', 600)");
+    const auto other = database.open();
+    const char* draw = "EXEC VELMARA_GENERATE_NUMBER '01', 'A', 'CRO', 'CROMST'";
+    EXPECT_EQ(database.answer(draw), "601");
+    database.connection().begin();
+    database.connection().execute("DELETE FROM SYSNumbers");
+    EXPECT_EQ(database.answer(draw), "602");
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, draw), "603");
+    database.connection().rollback();
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'a ', 'cro', 'CROMST'"), "604");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'B', 'CRO', 'CROMST'"), "1");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01'"), "error 201");
+}
+
+TEST(EmbeddedSessionTest, anErrorBearsWhatWasSentAndItsLine) {
+    const EmbeddedDatabase database;
+    const std::string batch = "SELECT 1 ;\nSELECT *\n  FROM nope ;";
+    try {
+        database.open()->execute(batch);
+        FAIL() << "the unknown table was taken";
+    } catch (const SqlError& error) {
+        EXPECT_EQ(error.kind(), SqlErrorKind::Statement);
+        EXPECT_STREQ(error.what(), "Invalid object name 'nope'.");
+        EXPECT_EQ(error.statement(), batch);
+        EXPECT_EQ(error.sqlState(), "42S02");
+        EXPECT_EQ(error.message().line, 2);
+    }
+}
