@@ -97,7 +97,7 @@ void Session::rollback() {
 }
 
 std::int64_t Session::versionNow() const {
-    return catalogue_.version() * 1'000'003 + temporary_.version();
+    return catalogue_.version() * 1'000'003 + temporary_.version() + settingsVersion_;
 }
 
 /// Every piece is parsed before the first one runs: a batch with a mistake does nothing.
@@ -110,10 +110,19 @@ void Session::runPieces(std::string_view batch, std::span<const Parameter> param
     };
     line_ = 1;
     std::vector<Piece> pieces;
+    std::size_t read = 0;
     ShapeReader reader(batch);
-    for (Shape shape; reader.next(shape);) {
-        pieces.push_back({std::move(shape), nullptr});
-        pieces.back().program = programOf(pieces.back().shape, parameters);
+    while (true) {
+        Piece& piece = pieces.emplace_back();
+        // The key is hardly longer than the text: one allocation instead of ten.
+        piece.shape.key.reserve(batch.size() - read);
+        if (!reader.next(piece.shape)) {
+            pieces.pop_back();
+            break;
+        }
+        read = static_cast<std::size_t>(piece.shape.text.data() - batch.data()) +
+               piece.shape.text.size();
+        piece.program = programOf(piece.shape, parameters);
     }
     catalogue_.refresh();
     Frame frame;
@@ -140,7 +149,7 @@ std::shared_ptr<Program> Session::programOf(Shape& shape, std::span<const Parame
         return *found;
     }
     auto program = std::make_shared<Program>();
-    program->batch = parse(shape.text, shape.firstLine);
+    program->batch = parse(shape.text, shape.firstLine, shape.beginsBatch);
     if (program->batch.reusable) {
         return cache_.insert(shape, program->batch.structuralLiterals, program);
     }

@@ -191,7 +191,8 @@ private:
     std::function<Value(std::string_view)> sessionValue_;
     std::optional<std::int64_t> statementTime_; // asked for by the running statement
 
-    std::string identityInsert_; // the table it is on for
+    std::string identityInsert_;       // the table it is on for
+    std::int64_t settingsVersion_ = 0; // goes up when a setting changes what is translated
     bool noCount_ = false;
     int line_ = 0;
     int callDepth_ = 0;

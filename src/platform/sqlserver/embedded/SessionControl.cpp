@@ -87,8 +87,7 @@ Session::Flow Session::execute(const SetOption& set, Place& place) {
             raise(1088, {set.table.name}, line_);
         }
         identityInsert_ = on ? table->name : std::string();
-        place.program.prepared.clear();
-        cache_.clear();
+        ++settingsVersion_;
     } else if (has("LOCK_TIMEOUT")) {
         std::from_chars(set.value.data(), set.value.data() + set.value.size(), lockTimeout_);
         sqlite3_busy_timeout(file_.handle.get(),
