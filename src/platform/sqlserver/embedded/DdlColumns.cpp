@@ -77,6 +77,9 @@ Rewrite rewriteFor(const Type& from, const Type& to) {
 
 // What ALTER TABLE ADD COLUMN of SQLite takes as the value of rows that are there already.
 bool isConstant(std::string_view sqlite) {
+    if (sqlite.starts_with("X'")) {
+        sqlite.remove_prefix(1);
+    }
     if (sqlite.size() > 1 && sqlite.front() == '\'') {
         return sqlite.find('\'', 1) == sqlite.size() - 1;
     }

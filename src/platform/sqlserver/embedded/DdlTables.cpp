@@ -25,6 +25,43 @@ std::string serverMadeName(std::string_view kind, std::string_view table, std::s
     return name + hex.data();
 }
 
+// Where the bracket that the text begins with is closed; 0 when it begins with none.
+std::size_t closingBracket(std::string_view text) {
+    int depth = 0;
+    bool quoted = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        quoted = quoted != (text[i] == '\'');
+        if (!quoted && text[i] == '(') {
+            ++depth;
+        } else if (!quoted && text[i] == ')') {
+            --depth;
+        }
+        if (depth == 0) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+// As the server keeps a default: ('x'), ((0)), (getdate()), whatever brackets were written.
+std::string bracketed(std::string_view text) {
+    const auto trim = [&] {
+        while (!text.empty() && text.front() == ' ') {
+            text.remove_prefix(1);
+        }
+        while (!text.empty() && text.back() == ' ') {
+            text.remove_suffix(1);
+        }
+    };
+    trim();
+    while (text.size() > 1 && closingBracket(text) == text.size() - 1) {
+        text = text.substr(1, text.size() - 2);
+        trim();
+    }
+    const bool number = text.find_first_not_of("0123456789.+-") == std::string_view::npos;
+    return (number ? "((" : "(") + std::string(text) + (number ? "))" : ")");
+}
+
 bool isKeyType(const Type& type) {
     return !type.isLongText() && type.id != TypeId::Image && type.length != maxLength;
 }
@@ -87,7 +124,7 @@ DefaultDef Ddl::defaultFrom(const TableDef& table, const ColumnDef& column,
     const int id = catalogue_.nextObjectId();
     const bool systemNamed = spec.name.empty();
     return {id, systemNamed ? serverMadeName("DF", table.name, column.name, id) : spec.name,
-            spec.text, spec.sqlite, systemNamed};
+            bracketed(spec.text), spec.sqlite, systemNamed};
 }
 
 ColumnDef Ddl::columnFrom(const TableDef& table, const ColumnSpec& spec) {

@@ -90,7 +90,7 @@ std::string Emitter::asReal(Fragment fragment) {
 std::string Emitter::stored(Fragment fragment, const TableDef& table, const ColumnDef& column) {
     if (fragment.bind) {
         fragment.bind->to = column.type;
-        fragment.bind->store = StoreTarget{table.name, column.name};
+        fragment.bind->store = StoreTarget{names_.fullName(table), column.name};
         return place(std::move(*fragment.bind));
     }
     if (fragment.type.isNull() || losesNothing(fragment.type, column.type)) {

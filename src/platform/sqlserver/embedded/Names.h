@@ -4,6 +4,7 @@
 #include "platform/sqlserver/embedded/Ast.h"
 #include "platform/sqlserver/embedded/Catalogue.h"
 
+#include <string>
 #include <string_view>
 
 namespace velcro::sql::tsql {
@@ -21,6 +22,8 @@ public:
     /// Null when the caller bound none of that name.
     virtual const Type* parameter(std::string_view name) const = 0;
     virtual bool identityInsert(const TableDef& table) const = 0;
+    /// database.dbo.Table, as messages about stored values have it.
+    virtual std::string fullName(const TableDef& table) const = 0;
 };
 
 } // namespace velcro::sql::tsql

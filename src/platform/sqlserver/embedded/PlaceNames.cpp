@@ -45,4 +45,9 @@ bool Session::PlaceNames::identityInsert(const TableDef& table) const {
     return !session_.identityInsert_.empty() && sameName(session_.identityInsert_, table.name);
 }
 
+std::string Session::PlaceNames::fullName(const TableDef& table) const {
+    return TemporaryTables::isTemporary(table.name) ? "tempdb.dbo." + table.name
+                                                    : session_.catalogue_.fullName(table.name);
+}
+
 } // namespace velcro::sql::tsql

@@ -16,6 +16,7 @@ public:
     Type variable(std::string_view name) const override;
     const Type* parameter(std::string_view name) const override;
     bool identityInsert(const TableDef& table) const override;
+    std::string fullName(const TableDef& table) const override;
 
 private:
     const Session& session_;

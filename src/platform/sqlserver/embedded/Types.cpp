@@ -352,7 +352,8 @@ ConversionRule conversionRule(const Type& from, const Type& to) {
         return from.isText() ? ConversionRule::Implicit : ConversionRule::Refused;
     }
     if (to.id == TypeId::Image) {
-        return from.isBinary() ? ConversionRule::Implicit : ConversionRule::Refused;
+        const bool narrow = from.id == TypeId::Char || from.id == TypeId::VarChar;
+        return from.isBinary() || narrow ? ConversionRule::Implicit : ConversionRule::Refused;
     }
     if (from.isText()) {
         const bool explicitOnly = to.isBinary() || to.id == TypeId::RowVersion;

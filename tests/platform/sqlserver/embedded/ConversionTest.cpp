@@ -214,6 +214,8 @@ TEST(ConversionTest, WhatIsStoredMustFitItsColumn) {
     EXPECT_EQ(stored(std::string(100000, 'x'), text, nvarcharType(maxLength)), 0);
     EXPECT_EQ(stored(Blob{"abc"}, varbinaryType(3), varbinaryType(2)), 2628);
     EXPECT_EQ(stored(s("abc"), text, varbinaryType(8)), 257);
+    EXPECT_EQ(stored(s(""), varcharType(1), {TypeId::Image}), 0);
+    EXPECT_EQ(stored(s(""), text, {TypeId::Image}), 206);
     EXPECT_EQ(stored(s("2026-01-01"), dateType, intType), 206);
     EXPECT_EQ(
         std::get<std::string>(convertForColumn(s("ab"), text, Type{TypeId::NChar, 4}, {"T", "C"})),

@@ -126,6 +126,8 @@ TEST_F(DdlTest, AddedColumnsFillTheRowsThatAreThere) {
     ddl.addColumns(
         "Order", {withDefault("Status", nvarcharType(1), "'0'"), column("Note", {TypeId::NText})});
     EXPECT_EQ(rows("Status, Note"), "0|NULL\n0|NULL");
+    ddl.addColumns("Order", {withDefault("Photo", {TypeId::Image}, "X''")});
+    EXPECT_EQ(rows("typeof(Photo), length(Photo)"), "blob|0\nblob|0");
     EXPECT_EQ(faultNumber([&] { ddl.addColumns("Order", {column("status", intType)}); }), 2705);
     EXPECT_EQ(faultNumber([&] { ddl.addColumns("Order", {column("N", intType, false)}); }), 4901);
     EXPECT_EQ(faultNumber([&] { ddl.addColumns("None", {column("N", intType)}); }), 4902);
@@ -137,6 +139,23 @@ TEST_F(DdlTest, AddedColumnsFillTheRowsThatAreThere) {
     EXPECT_EQ(file.query("SELECT Status, Later, length(Made) FROM \"Order\" WHERE CO = '003'"),
               "0|9|23");
     expectSound();
+}
+
+TEST_F(DdlTest, DefaultsAreKeptInTheServersBrackets) {
+    const std::pair<const char*, const char*> rows[] = {{"0", "((0))"},
+                                                        {"(0)", "((0))"},
+                                                        {" ( ( -1 ) ) ", "((-1))"},
+                                                        {"''", "('')"},
+                                                        {"('x')", "('x')"},
+                                                        {"(')(')", "(')(')"},
+                                                        {"getdate()", "(getdate())"},
+                                                        {"((1)+(2))", "((1)+(2))"}};
+    for (const auto& [written, kept] : rows) {
+        file.ddl.addColumns("Order", {{"X", intType, {}, {}, DefaultSpec{"DF_X", written, "0"}}});
+        EXPECT_EQ(file.catalogue.table("Order")->column("X")->defaultValue->text, kept);
+        file.ddl.dropConstraint("Order", "DF_X", false);
+        file.ddl.dropColumns("Order", {"X"}, false);
+    }
 }
 
 TEST_F(DdlTest, DroppingADefaultLeavesWhatItHadFilled) {
