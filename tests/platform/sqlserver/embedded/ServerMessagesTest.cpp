@@ -1,0 +1,146 @@
+#include "support/EmbeddedDatabase.h"
+
+#include <gtest/gtest.h>
+
+using velcro::sql::SqlError;
+using velcro::test::EmbeddedDatabase;
+
+namespace {
+
+/// What a user reads of each refusal: the server's number, grade and words.
+class ServerMessagesTest : public testing::Test
+{
+protected:
+    void SetUp() override {
+        ASSERT_EQ(database_.answer(
+                      "CREATE TABLE Item (RecID int IDENTITY(1,1) NOT NULL, Code nvarchar(5) NULL,"
+                      " Qty int NOT NULL, Small tinyint NULL, Day datetime NULL, Price money NULL)"
+                      " ALTER TABLE Item ADD CONSTRAINT Item_idx00 PRIMARY KEY (RecID)"
+                      " CREATE INDEX Item_idx01 ON Item (Code)"
+                      " INSERT INTO Item (Code, Qty) VALUES ('A1', 1), ('A2', 2)"),
+                  "(-1) (-1) (-1) (2)");
+    }
+
+    /// "<number> <level> <text>", or "no error".
+    std::string refusal(const std::string& batch) {
+        try {
+            database_.connection().run(batch, {}, [](velcro::sql::StatementResult&&) {});
+        } catch (const SqlError& error) {
+            sqlState_ = error.sqlState();
+            return std::to_string(error.number()) + " " + std::to_string(error.message().level) +
+                   " " + error.what();
+        }
+        return "no error";
+    }
+
+    EmbeddedDatabase database_;
+    std::string sqlState_;
+};
+
+struct Row
+{
+    const char* batch;
+    const char* refusal;
+    const char* sqlState;
+};
+
+} // namespace
+
+TEST_F(ServerMessagesTest, valuesThatDoNotFit) {
+    const Row rows[] = {
+        {"UPDATE Item SET Qty = 'x1'",
+         "245 16 Conversion failed when converting the varchar value 'x1' to data type int.",
+         "22018"},
+        {"UPDATE Item SET Qty = N'x1'",
+         "245 16 Conversion failed when converting the nvarchar value 'x1' to data type int.",
+         "22018"},
+        {"UPDATE Item SET Small = 300",
+         "220 16 Arithmetic overflow error for data type tinyint, value = 300.", "22003"},
+        {"UPDATE Item SET Small = '300'",
+         "244 16 The conversion of the varchar value '300' overflowed an INT1 column. Use a larger "
+         "integer column.",
+         "22003"},
+        {"UPDATE Item SET Qty = 2147483647 + Qty",
+         "8115 16 Arithmetic overflow error converting expression to data type int.", "22003"},
+        {"UPDATE Item SET Code = 'far too long'",
+         "2628 16 String or binary data would be truncated in table 'Shop.dbo.Item', column "
+         "'Code'. "
+         "Truncated value: 'far t'.",
+         "22001"},
+        {"UPDATE Item SET Code = Code + '----'",
+         "2628 16 String or binary data would be truncated in table 'Shop.dbo.Item', column "
+         "'Code'. "
+         "Truncated value: 'A1---'.",
+         "22001"},
+        {"UPDATE Item SET Day = '2026-02-30'",
+         "242 16 The conversion of a varchar data type to a datetime data type resulted in an "
+         "out-of-range value.",
+         "22007"},
+        {"UPDATE Item SET Price = 'dear'",
+         "235 16 Cannot convert a char value to money. The char value has incorrect syntax.",
+         "42000"},
+        {"UPDATE Item SET Qty = NULL",
+         "515 16 Cannot insert the value NULL into column 'Qty', table 'Shop.dbo.Item'; column "
+         "does "
+         "not allow nulls. UPDATE fails.",
+         "23000"},
+        {"UPDATE Item SET Qty = 5 / (Qty - Qty)", "8134 16 Divide by zero error encountered.",
+         "22012"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(refusal(row.batch), row.refusal) << row.batch;
+        EXPECT_EQ(sqlState_, row.sqlState) << row.batch;
+    }
+    EXPECT_EQ(database_.answer("SELECT Code, Qty FROM Item"), "A1|1;A2|2") << "nothing was changed";
+}
+
+TEST_F(ServerMessagesTest, namesAndShapes) {
+    const Row rows[] = {
+        {"SELECT Nope FROM Item", "207 16 Invalid column name 'Nope'.", "42S22"},
+        {"SELECT * FROM Nope", "208 16 Invalid object name 'Nope'.", "42S02"},
+        {"SELECT N.Code FROM Item",
+         "4104 16 The multi-part identifier \"N.Code\" could not be "
+         "bound.",
+         "42000"},
+        {"SELECT LEFT('abc')", "174 15 The left function requires 2 argument(s).", "42000"},
+        {"SELECT ROUND(1)", "189 15 The round function requires 2 to 3 arguments.", "42000"},
+        {"SELECT DATEADD(fortnight, 1, Day) FROM Item",
+         "155 15 'fortnight' is not a recognized datepart option.", "42000"},
+        {"SELECT SUBSTRING(Code, 1, -1) FROM Item",
+         "537 16 Invalid length parameter passed to the LEFT or SUBSTRING function.", "42000"},
+        {"DROP TABLE Nope",
+         "3701 11 Cannot drop the table 'Nope', because it does not exist or you do not have "
+         "permission.",
+         "42S02"},
+        {"CREATE TABLE Item (a int)",
+         "2714 16 There is already an object named 'Item' in the database.", "42S01"},
+        {"ALTER TABLE Item ADD CODE int",
+         "2705 16 Column names in each table must be unique. Column name 'CODE' in table 'Item' is "
+         "specified more than once.",
+         "42S21"},
+        {"ALTER TABLE Item DROP COLUMN Nope",
+         "4924 16 ALTER TABLE DROP COLUMN failed because column 'Nope' does not exist in table "
+         "'Item'.",
+         "42S22"},
+        {"ALTER TABLE Item ALTER COLUMN Code nvarchar(3)",
+         "5074 16 The index 'Item_idx01' is dependent on column 'Code'.\nALTER TABLE ALTER COLUMN "
+         "Code failed because one or more objects access this column.",
+         "42000"},
+        {"CREATE INDEX Item_idx01 ON Item (Qty)",
+         "1913 16 The operation failed because an index or statistics with name 'Item_idx01' "
+         "already "
+         "exists on table 'Item'.",
+         "42S11"},
+        {"DROP INDEX [ Item_idx01] ON [dbo].[Item] ",
+         "3701 11 Cannot drop the index 'Item. Item_idx01', because it does not exist or you do "
+         "not "
+         "have permission.",
+         "42S02"},
+        {"SET IDENTITY_INSERT Item ON INSERT INTO Item (RecID, Qty) VALUES (1, 1)",
+         "2627 14 Violation of PRIMARY KEY constraint 'Item_idx00'. Cannot insert duplicate key in "
+         "object 'dbo.Item'.",
+         "23000"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(refusal(row.batch), row.refusal) << row.batch;
+        EXPECT_EQ(sqlState_, row.sqlState) << row.batch;
+    }
+}
