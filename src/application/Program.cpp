@@ -1,0 +1,50 @@
+#include "application/Program.h"
+
+#include "application/ImageLists.h"
+#include "application/SessionInit.h"
+#include "application/StartUp.h"
+#include "application/SysDataModel.h"
+#include "application/SysFuncGlobal.h"
+#include "application/VersionCheck.h"
+#include "data/DataModules.h"
+#include "repairs/CRO100.h"
+#include "security/SysLogIn.h"
+#include "security/SysLogInForms.h"
+#include "ui/Icons.h"
+
+#include <QApplication>
+
+namespace {
+
+StartUpSteps stepsFor(TfrmMAIN000& mainForm) {
+    StartUpSteps steps;
+    steps.initSystem = [&mainForm] { sfvel_InitSystem(mainForm); };
+    steps.checkVersion = sfg_CheckEXEVersion;
+    steps.silentLogIn = sli_LogIn;
+    steps.showLogInForm = slif_Show_LogInForm;
+    return steps;
+}
+
+} // namespace
+
+Program::Program(const QStringList& arguments)
+    : mainForm_([this, arguments] { return startUp(stepsFor(mainForm_), arguments); }) {
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(velcro::ui::icon(QStringLiteral("product-logo")));
+    connectPrompts();
+    createDataModules();
+    fillImageLists(*sData);
+    gMenuScreens.repairOrders = [](QWidget* parent) {
+        return std::make_unique<TfrmCRO100>(parent);
+    };
+}
+
+Program::~Program() {
+    freeSharedLists();
+    freeDataModules();
+}
+
+int Program::run() {
+    mainForm_.show();
+    return QApplication::exec();
+}
