@@ -5,8 +5,9 @@
 #include "application/Screen.h"
 #include "ui/FormBuilder.h"
 
+#include <QLineEdit>
+
 class QHBoxLayout;
-class QLineEdit;
 
 class SignInForm : public Screen
 {
