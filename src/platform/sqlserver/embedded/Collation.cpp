@@ -83,6 +83,16 @@ int sign(std::int64_t difference) {
     return difference < 0 ? -1 : difference > 0 ? 1 : 0;
 }
 
+// One text has ended: the other one's rest counts as against blanks.
+int compareRest(std::string_view rest) {
+    for (const char c : rest) {
+        if (c != ' ') {
+            return isAsciiByte(c) && weights[static_cast<unsigned char>(c)] < weights[' '] ? -1 : 1;
+        }
+    }
+    return 0;
+}
+
 // From the first byte that is not ASCII on; what stands before is equal.
 int compareBeyondAscii(std::string_view a, std::string_view b) {
     a = withoutTrailingBlanks(a);
@@ -105,19 +115,9 @@ int compareBeyondAscii(std::string_view a, std::string_view b) {
         }
     }
     if (i < a.size() || j < b.size()) {
-        return i < a.size() ? 1 : -1;
+        return i < a.size() ? compareRest(a.substr(i)) : -compareRest(b.substr(j));
     }
     return accents;
-}
-
-// One text has ended: the other one's rest counts as against blanks.
-int compareRest(std::string_view rest) {
-    for (const char c : rest) {
-        if (c != ' ') {
-            return isAsciiByte(c) && weights[static_cast<unsigned char>(c)] < weights[' '] ? -1 : 1;
-        }
-    }
-    return 0;
 }
 
 template <char32_t (*map)(char32_t)>

@@ -383,11 +383,9 @@ Value convertForColumn(Value value, const Type& from, const Type& to, const Targ
     if (to.isText()) {
         return storedAsText(std::move(value), from, to, target);
     }
-    if (to.isBinary() && to.length > 0 && from.isBinary()) {
-        const auto& bytes = std::get<Blob>(value).bytes;
-        if (bytes.size() > static_cast<std::size_t>(to.length)) {
-            refuseTruncation(target, "");
-        }
+    const auto* blob = to.isBinary() && to.length > 0 ? std::get_if<Blob>(&value) : nullptr;
+    if (blob && blob->bytes.size() > static_cast<std::size_t>(to.length)) {
+        refuseTruncation(target, "");
     }
     return convert(std::move(value), from, to);
 }

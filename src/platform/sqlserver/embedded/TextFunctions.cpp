@@ -87,7 +87,8 @@ void substring(const Call& call) {
     if (count < 0) {
         raise(537);
     }
-    const std::int64_t end = start > std::numeric_limits<std::int32_t>::max() ? 0 : start + count;
+    constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t end = std::min(start, most) + std::min(count, most);
     const std::int64_t from = std::max<std::int64_t>(start, 1);
     const std::int64_t kept = std::max<std::int64_t>(end - from, 0);
     call.give(sliceText(text, static_cast<std::size_t>(from - 1), static_cast<std::size_t>(kept)));
