@@ -16,6 +16,8 @@
 #include "ui/Modal.h"
 
 #include <QComboBox>
+#include <QEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QVBoxLayout>
@@ -46,15 +48,23 @@ public:
 } // namespace
 
 TfrmCMN999::TfrmCMN999()
-    : SignInForm(QStringLiteral("CMN999"), gEXETitle) {
+    : SignInForm(QStringLiteral("CMN999"), gEXETitle, 960) {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     makePictures();
-    cmbDatabase = form().combo(QStringLiteral("cmbDatabase"), QStringLiteral("Select Company"));
+    cmbDatabase =
+        form().combo(QStringLiteral("cmbDatabase"), QStringLiteral("Select Company"), {}, 32);
+    addPickButton();
     edUserCode = addCode(QStringLiteral("edUserCode"), QStringLiteral("User Code"));
     edUserPswd = addPassword(QStringLiteral("edUserPswd"), QStringLiteral("Password"));
     onEnter(edUserPswd, [this] { edUserPswdEnter(); });
     makeButtons();
     bindKey(Qt::Key_F1, this, &TfrmCMN999::acSelectDB);
+    for (auto* label : findChildren<QLabel*>()) {
+        if (label->buddy() == cmbDatabase) {
+            companyLabel_ = label;
+            label->installEventFilter(this);
+        }
+    }
     StatusBar1().addPanel(velcro::ui::psHTML, QStringLiteral("Version : ") + gVersion);
 }
 
@@ -74,21 +84,32 @@ void TfrmCMN999::resizeEvent(QResizeEvent* event) {
     ImgLogInLogo->setGeometry(QRect(0, 0, width(), pictureHeight).adjusted(24, 24, -24, -24));
 }
 
-void TfrmCMN999::makeButtons() {
+void TfrmCMN999::addPickButton() {
     auto* pick = new velcro::ui::KeyButton(QStringLiteral("Find Company"), this);
     pick->setObjectName(QStringLiteral("btnSelectDB"));
     pick->setAccessibleName(QStringLiteral("Find Company"));
     pick->setKeyCap(QStringLiteral("F1"));
     pick->setFocusPolicy(Qt::NoFocus);
+    pick->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form().beside().control(pick, QStringLiteral("btnSelectDB"), QString());
     velcro::ui::connectHandler(pick, &QPushButton::clicked, this, &TfrmCMN999::acSelectDB);
+}
 
+void TfrmCMN999::makeButtons() {
     auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral("OK"), QStringLiteral("ENTER"));
     btnOK->setRole(velcro::ui::KeyButton::Role::Main);
     auto* btnCancel = addButton(QStringLiteral("btnCancel"), QStringLiteral("&Cancel"), QString());
     velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN999::btnOKClick);
     velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
                                [this] { finish(QStringLiteral("CANCEL")); });
+}
+
+// A click on the combo's label opens the picker too.
+bool TfrmCMN999::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == companyLabel_ && event->type() == QEvent::MouseButtonRelease) {
+        velcro::ui::guarded([this] { acSelectDB(); });
+    }
+    return SignInForm::eventFilter(watched, event);
 }
 
 void TfrmCMN999::FormShow() {

@@ -4,6 +4,7 @@
 #include "security/SignInForm.h"
 
 class QComboBox;
+class QLabel;
 class LogInPicture;
 
 class TfrmCMN999 : public SignInForm
@@ -26,9 +27,11 @@ public:
 protected:
     void FormShow() override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makePictures();
+    void addPickButton();
     void makeButtons();
     void acSelectDB();
     void btnOKClick();
@@ -42,6 +45,7 @@ private:
     QComboBox* cmbDatabase = nullptr;
     QLineEdit* edUserCode = nullptr;
     QLineEdit* edUserPswd = nullptr;
+    QLabel* companyLabel_ = nullptr;
     LogInPicture* imgBackground = nullptr;
     LogInPicture* ImgLogInLogo = nullptr;
 };

@@ -19,12 +19,14 @@ QString entryStyle(bool password, bool hasFocus) {
 
 } // namespace
 
-SignInForm::SignInForm(const QString& unit, const QString& caption)
-    : Screen(unit, caption, nullptr) {
+SignInForm::SignInForm(const QString& unit, const QString& caption, int leastWidth)
+    : Screen(unit, caption, nullptr)
+    , leastWidth_(leastWidth) {
     auto* page = new QWidget(this);
     form_ = std::make_unique<velcro::ui::FormBuilder>(page);
     buttons_ = new QHBoxLayout;
     buttons_->setContentsMargins(12, 0, 12, 12);
+    buttons_->setSpacing(10);
     buttons_->addStretch();
     body().addWidget(page);
     body().addLayout(buttons_);
@@ -77,7 +79,7 @@ bool SignInForm::eventFilter(QObject* watched, QEvent* event) {
 
 void SignInForm::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        resize(sizeHint().expandedTo(QSize(560, 0)));
+        resize(sizeHint().expandedTo(QSize(leastWidth_, 0)));
         move(sfg_SetFormLeft(*this, 0), sfg_SetFormTop(*this, 0));
     }
     Screen::showEvent(event);

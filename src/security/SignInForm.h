@@ -14,7 +14,8 @@ class SignInForm : public Screen
     Q_OBJECT
 
 public:
-    SignInForm(const QString& unit, const QString& caption);
+    /// Wide enough for the longest refusal in the status bar.
+    SignInForm(const QString& unit, const QString& caption, int leastWidth = 740);
 
     /// "START" while open; how the form ended is in the caller's words "OK", "CANCEL" or "ERROR".
     QString xReturn = QStringLiteral("START");
@@ -45,4 +46,5 @@ protected:
 private:
     std::unique_ptr<velcro::ui::FormBuilder> form_;
     QHBoxLayout* buttons_ = nullptr;
+    int leastWidth_;
 };

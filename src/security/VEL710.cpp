@@ -57,7 +57,7 @@ TfrmVEL710::TfrmVEL710()
     auto* btnClose =
         newButton(QStringLiteral("btnClose"), QStringLiteral("Close"), QStringLiteral("ESC"));
     auto* buttons = new QHBoxLayout;
-    buttons->setContentsMargins(12, 0, 12, 12);
+    buttons->setContentsMargins(12, 8, 12, 12);
     buttons->addWidget(btnSearch);
     buttons->addStretch();
     buttons->addWidget(btnClose);

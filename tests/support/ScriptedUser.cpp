@@ -169,8 +169,22 @@ int columnOf(const RowGrid& grid, const QString& heading) {
 
 } // namespace
 
+namespace {
+
+/// The grid the user looks at: of several on pages, the one of the page in front.
+const RowGrid& visibleGrid(QDialog& form) {
+    for (const auto* grid : form.findChildren<RowGrid*>()) {
+        if (grid->isVisible()) {
+            return *grid;
+        }
+    }
+    throw std::runtime_error("no grid is in sight");
+}
+
+} // namespace
+
 QStringList ScriptedUser::column(const QString& heading) {
-    const auto& grid = find<RowGrid>(QString());
+    const auto& grid = visibleGrid(form());
     const int index = columnOf(grid, heading);
     QStringList texts;
     for (int row = 0; row < grid.rowModel().rowCount(); ++row) {
@@ -180,7 +194,7 @@ QStringList ScriptedUser::column(const QString& heading) {
 }
 
 QString ScriptedUser::current(const QString& heading) {
-    const auto& grid = find<RowGrid>(QString());
+    const auto& grid = visibleGrid(form());
     const auto current = grid.currentIndex();
     return current.isValid() ? grid.rowModel().text(current.row(), columnOf(grid, heading))
                              : QString();
