@@ -55,8 +55,7 @@ Catalogue::Catalogue(sqlite3* database, std::string databaseName, bool readOnly)
     registerCollation(database);
     hasTables_ = hasTables();
     if (!hasTables_ && !readOnly) {
-        runSqlite(database, std::string(catalogueTables));
-        hasTables_ = true;
+        createTables();
     }
     dataVersionQuery_ = std::make_unique<SqliteQuery>(database, "PRAGMA data_version");
     dataVersion_ = dataVersion();
@@ -68,6 +67,21 @@ Catalogue::~Catalogue() = default;
 bool Catalogue::hasTables() const {
     SqliteQuery query(database_, "SELECT 1 FROM sqlite_schema WHERE name = 'sys$version'");
     return query.step();
+}
+
+// Several may meet on a new file: the lock comes first, then the look whether there is work left.
+void Catalogue::createTables() {
+    runSqlite(database_, "BEGIN IMMEDIATE");
+    try {
+        if (!hasTables()) {
+            runSqlite(database_, std::string(catalogueTables));
+        }
+        runSqlite(database_, "COMMIT");
+    } catch (const Fault&) {
+        sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
+    hasTables_ = true;
 }
 
 std::int64_t Catalogue::dataVersion() {
@@ -190,8 +204,13 @@ int Catalogue::nextObjectId() {
 void Catalogue::changed() {
     changed_ = true;
     SqliteQuery(database_, "UPDATE \"sys$version\" SET version = version + 1").run();
+    const std::int64_t expected = stored_ + 1;
     stored_ = storedVersion();
     ++version_;
+    if (stored_ !=
+        expected) { // another connection was quicker, and what was checked is out of date
+        raise(1205, {"51"});
+    }
 }
 
 void Catalogue::putTable(TableDef table) {

@@ -161,6 +161,7 @@ private:
     };
 
     bool hasTables() const;
+    void createTables();
     void load();
     void loadObjects();
     void loadColumns();

@@ -58,14 +58,14 @@ bool keepsScale(TypeId id) {
            id == TypeId::DateTime2;
 }
 
-Type typeOfRow(const SqliteQuery& row, int name, int length, int precision, int scale) {
-    const auto named = typeByName(row.text(name));
-    Type type = named.value_or(Type{});
+Type typeOfRow(const SqliteQuery& row, int systemId, int length, int precision, int scale) {
+    Type type;
+    type.id = typeBySystemId(static_cast<int>(row.integer(systemId))).value_or(TypeId::Null);
     type.length = static_cast<std::int32_t>(row.integer(length));
     if (type.isDecimal()) {
         type.precision = static_cast<std::uint8_t>(row.integer(precision));
     }
-    if (keepsScale(type.id)) {
+    if (type.isDecimal() || keepsScale(type.id)) {
         type.scale = static_cast<std::uint8_t>(row.integer(scale));
     }
     return type;
@@ -190,7 +190,7 @@ void Catalogue::loadObjects() {
 }
 
 void Catalogue::loadColumns() {
-    SqliteQuery row(database_, "SELECT c.object_id, column_id, c.name, c.type, length,"
+    SqliteQuery row(database_, "SELECT c.object_id, column_id, c.name, system_type_id, length,"
                                "       precision, scale, nullable, seed, increment,"
                                "       default_id, default_sqlite, default_system_named,"
                                "       d.name, d.definition"

@@ -6,13 +6,12 @@
 namespace velcro::sql::tsql {
 
 // max_length, precision and scale are what the catalogue views report of a type; length is its own
-// measure. Two processes may meet on a new file, hence IF NOT EXISTS inside one transaction.
+// measure.
 inline constexpr std::string_view catalogueTables = R"sql(
-SAVEPOINT "sys$create";
-CREATE TABLE IF NOT EXISTS "sys$version"(
+CREATE TABLE "sys$version"(
     version INTEGER NOT NULL
 );
-CREATE TABLE IF NOT EXISTS "sys$objects"(
+CREATE TABLE "sys$objects"(
     object_id INTEGER PRIMARY KEY,
     name TEXT NOT NULL COLLATE SQL_CI_AS,
     type TEXT NOT NULL,
@@ -21,9 +20,9 @@ CREATE TABLE IF NOT EXISTS "sys$objects"(
     created TEXT NOT NULL,
     modified TEXT NOT NULL
 );
-CREATE UNIQUE INDEX IF NOT EXISTS "sys$objects.name" ON "sys$objects"(name);
-CREATE INDEX IF NOT EXISTS "sys$objects.parent" ON "sys$objects"(parent);
-CREATE TABLE IF NOT EXISTS "sys$columns"(
+CREATE UNIQUE INDEX "sys$objects.name" ON "sys$objects"(name);
+CREATE INDEX "sys$objects.parent" ON "sys$objects"(parent);
+CREATE TABLE "sys$columns"(
     object_id INTEGER NOT NULL,
     position INTEGER NOT NULL,
     column_id INTEGER NOT NULL,
@@ -42,7 +41,7 @@ CREATE TABLE IF NOT EXISTS "sys$columns"(
     default_system_named INTEGER,
     PRIMARY KEY(object_id, position)
 ) WITHOUT ROWID;
-CREATE TABLE IF NOT EXISTS "sys$indexes"(
+CREATE TABLE "sys$indexes"(
     object_id INTEGER NOT NULL,
     index_id INTEGER NOT NULL,
     name TEXT NOT NULL COLLATE SQL_CI_AS,
@@ -52,8 +51,8 @@ CREATE TABLE IF NOT EXISTS "sys$indexes"(
     is_clustered INTEGER NOT NULL,
     PRIMARY KEY(object_id, index_id)
 ) WITHOUT ROWID;
-CREATE INDEX IF NOT EXISTS "sys$indexes.name" ON "sys$indexes"(name);
-CREATE TABLE IF NOT EXISTS "sys$index_columns"(
+CREATE INDEX "sys$indexes.name" ON "sys$indexes"(name);
+CREATE TABLE "sys$index_columns"(
     object_id INTEGER NOT NULL,
     index_id INTEGER NOT NULL,
     index_column_id INTEGER NOT NULL,
@@ -63,9 +62,7 @@ CREATE TABLE IF NOT EXISTS "sys$index_columns"(
     is_included INTEGER NOT NULL,
     PRIMARY KEY(object_id, index_id, index_column_id)
 ) WITHOUT ROWID;
-INSERT INTO "sys$version"
-SELECT 1 WHERE NOT EXISTS (SELECT * FROM "sys$version");
-RELEASE "sys$create";
+INSERT INTO "sys$version" VALUES (1);
 )sql";
 
 } // namespace velcro::sql::tsql

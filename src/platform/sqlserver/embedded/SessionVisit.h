@@ -20,6 +20,8 @@ inline Session::Flow Session::visitStatement(const Statement& statement, Place& 
 template <class Work>
 Session::Flow Session::define(Place& place, Work work) {
     StatementScope whole(transactions_);
+    // Only now that no other connection can write is it sure which objects there are.
+    catalogue_.refresh();
     work();
     whole.done();
     report(place, -1);
