@@ -26,7 +26,7 @@ endif()
 
 # Optimising, gcc 12 takes the joining of short strings for copies without bounds.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  add_compile_options("$<$<CONFIG:Release>:-Wno-restrict;-Wno-stringop-overflow -Wno-array-bounds>")
+  add_compile_options("$<$<CONFIG:Release>:-Wno-restrict;-Wno-stringop-overflow;-Wno-array-bounds>")
 endif()
 
 if(VELCRO_SANITIZE)
