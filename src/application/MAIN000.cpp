@@ -22,6 +22,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 using velcro::ui::CaptionPanel;
@@ -34,9 +35,10 @@ constexpr QRgb blue = 0xff3a5ea4;
 constexpr QRgb green = 0xff3dbc66;
 constexpr QRgb red = 0xffff0000;
 constexpr QRgb grey = 0xff808080;
-constexpr QPoint reportsPlace{198, 230};
-constexpr QPoint configurationPlace{198, 321};
 constexpr QSize largestLogo{260, 110};
+constexpr int leastLogo = 40;                  // height
+constexpr int underLogo = 120;                 // from its foot to that of the form
+constexpr double factSizes[] = {11, 10, 9, 8}; // points
 
 } // namespace
 
@@ -87,6 +89,7 @@ void TfrmMAIN000::FormShow() {
         endFailedStart();
         return;
     }
+    exitStatus_ = 0;
     guarded([this] { finishStart(); });
     sfg_SetCursor(QStringLiteral("RESET"));
     emit menuIsLive();
@@ -115,7 +118,6 @@ void TfrmMAIN000::finishStart() {
 }
 
 void TfrmMAIN000::endFailedStart() {
-    exitStatus_ = 1;
     sfg_SetCursor(QStringLiteral("RESET"));
     close();
 }
@@ -144,6 +146,19 @@ void TfrmMAIN000::showFacts() {
     for (int panel = 0; panel < 6; ++panel) {
         StatusBar1->setPanelText(panel, facts[panel]);
     }
+    fitFacts();
+}
+
+// All six panels on the narrowest screen, and letters as large as on any other bar where they fit.
+void TfrmMAIN000::fitFacts() {
+    QFont letters = StatusBar1->font();
+    for (const double size : factSizes) {
+        letters.setPointSizeF(size);
+        StatusBar1->setFont(letters);
+        if (StatusBar1->textWidth() <= width()) {
+            return;
+        }
+    }
 }
 
 void TfrmMAIN000::showCompanyLogo() {
@@ -157,9 +172,12 @@ void TfrmMAIN000::showCompanyLogo() {
         return;
     }
     imgCompany->setImage(logo);
-    imgCompany->resize(logo.size().boundedTo(largestLogo) == logo.size()
+    // Between the menu, which does not move, and the bars.
+    const int room = height() - underLogo - pnlMainMenu->geometry().bottom() - 8;
+    const QSize largest(largestLogo.width(), std::clamp(room, leastLogo, largestLogo.height()));
+    imgCompany->resize(logo.size().boundedTo(largest) == logo.size()
                            ? logo.size()
-                           : logo.size().scaled(largestLogo, Qt::KeepAspectRatio));
+                           : logo.size().scaled(largest, Qt::KeepAspectRatio));
     imgCompany->show();
     update();
 }
@@ -311,7 +329,7 @@ void TfrmMAIN000::FormPaint() {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(background));
     imgVelmara->move(width() / 2 - 250, 110);
-    imgCompany->move(20, height() - (imgCompany->height() + 120));
+    imgCompany->move(20, height() - (imgCompany->height() + underLogo));
 }
 
 void TfrmMAIN000::paintEvent(QPaintEvent* /*event*/) {
@@ -325,6 +343,7 @@ void TfrmMAIN000::resizeEvent(QResizeEvent* event) {
     const int bar = StatusBar1->height();
     MessageStatusBar->setGeometry(0, height() - 2 * bar, width(), bar);
     StatusBar1->setGeometry(0, height() - bar, width(), bar);
+    fitFacts();
     update();
 }
 

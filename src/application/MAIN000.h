@@ -35,7 +35,7 @@ public:
     velcro::ui::StatusBar* StatusBar1 = nullptr;
     velcro::ui::StatusBar* MessageStatusBar = nullptr;
     velcro::ui::IdleLock* ExeIdle = nullptr;
-    /// 0, or 1 after a start that failed or was turned down.
+    /// 0, or 1 when the program ended before its menu was live.
     int exitStatus() const { return exitStatus_; }
 
 signals:
@@ -50,6 +50,9 @@ protected:
 
 private:
     enum class Menu { Main, Reports, Configuration };
+    // The panels of the menu do not move.
+    static constexpr QPoint reportsPlace{198, 230};
+    static constexpr QPoint configurationPlace{198, 321};
     struct Entry; // one button and its key; the table stands in MAIN000Menu.cpp
     struct Group
     {
@@ -66,7 +69,7 @@ private:
     void makeMenus();
     void makeMainMenu(const QSize& tile, int caption);
     velcro::ui::CaptionPanel* makeSubMenu(Menu menu, const QString& name, const QString& caption,
-                                          const QPoint& place, const QSize& tile, int columns);
+                                          const QSize& tile, int columns);
     velcro::ui::CaptionPanel* makeGroup(const QString& name, const QString& caption, int height);
     velcro::ui::MenuTile* makeTile(const Entry& entry, const QSize& size);
     void addTiles(velcro::ui::CaptionPanel& panel, const QStringList& names, int columns,
@@ -82,6 +85,7 @@ private:
     void ExeIdleLock();
 
     void showFacts();
+    void fitFacts();
     void showCompanyLogo();
     void showBranchBand();
     void enableMenu(Menu menu, bool xEnable);
@@ -102,7 +106,7 @@ private:
     std::function<bool()> start_;
     bool started_ = false;
     bool closed_ = false;
-    int exitStatus_ = 0;
+    int exitStatus_ = 1;
     QString startDate_; // today, when the menu went live
     QString xSYS161_, xCO85_;
     std::vector<Group> groups_;

@@ -19,8 +19,6 @@ using velcro::ui::StatusBar;
 
 namespace {
 constexpr QPoint mainMenuPlace{20, 222};
-constexpr QPoint reportsPlace{198, 230};
-constexpr QPoint configurationPlace{198, 321};
 constexpr int barHeight = 34;
 } // namespace
 
@@ -97,9 +95,6 @@ void TfrmMAIN000::makeBars() {
     for (int panel = 0; panel < 6; ++panel) {
         StatusBar1->addPanel(velcro::ui::psHTML, {}, panel == 5 ? -1 : 0);
     }
-    QFont facts = StatusBar1->font();
-    facts.setPointSizeF(9); // all six panels on the narrowest screen
-    StatusBar1->setFont(facts);
     for (auto* bar : {MessageStatusBar, StatusBar1}) {
         bar->setAutoFillBackground(true);
         bar->setFixedHeight(barHeight);
@@ -111,7 +106,7 @@ QSize TfrmMAIN000::tileSize() const {
     const QSize room = QGuiApplication::primaryScreen()->availableSize();
     const double scale =
         std::clamp(std::min(room.width() / 1024.0, room.height() / 768.0), 0.6, 1.5);
-    return QSize(qRound(200 * scale), qRound(104 * scale));
+    return QSize(qRound(290 * scale), qRound(104 * scale));
 }
 
 MenuTile* TfrmMAIN000::makeTile(const Entry& entry, const QSize& size) {
@@ -179,7 +174,7 @@ void TfrmMAIN000::makeMainMenu(const QSize& tile, int caption) {
 }
 
 CaptionPanel* TfrmMAIN000::makeSubMenu(Menu menu, const QString& name, const QString& caption,
-                                       const QPoint& place, const QSize& tile, int columns) {
+                                       const QSize& tile, int columns) {
     auto* panel = makeGroup(name, caption, qRound(tile.height() * 0.33));
     QStringList names;
     for (const Entry& entry : entries()) {
@@ -189,7 +184,6 @@ CaptionPanel* TfrmMAIN000::makeSubMenu(Menu menu, const QString& name, const QSt
     }
     addTiles(*panel, names, columns, tile);
     panel->adjustSize();
-    panel->move(place);
     panel->hide();
     return panel;
 }
@@ -205,8 +199,7 @@ void TfrmMAIN000::makeMenus() {
     const QSize subTile = low ? QSize(std::min(beside, tile.width()), tile.height()) : tile;
     const int columns = low ? 4 : 2;
     pnlReports = makeSubMenu(Menu::Reports, QStringLiteral("pnlReports"),
-                             QStringLiteral("REPORTING & DATA"), reportsPlace, subTile, columns);
-    pnlADMConfiguration =
-        makeSubMenu(Menu::Configuration, QStringLiteral("pnlADMConfiguration"),
-                    QStringLiteral("CONFIGURATION"), configurationPlace, subTile, columns);
+                             QStringLiteral("REPORTING & DATA"), subTile, columns);
+    pnlADMConfiguration = makeSubMenu(Menu::Configuration, QStringLiteral("pnlADMConfiguration"),
+                                      QStringLiteral("CONFIGURATION"), subTile, columns);
 }

@@ -1,7 +1,9 @@
 #include "application/Program.h"
 
 #include "application/ImageLists.h"
+#include "application/ScreenServices.h"
 #include "application/SessionInit.h"
+#include "application/Settings.h"
 #include "application/StartUp.h"
 #include "application/SysDataModel.h"
 #include "application/SysFuncGlobal.h"
@@ -34,6 +36,7 @@ Program::Program(const QStringList& arguments)
     connectPrompts();
     createDataModules();
     fillImageLists(*sData);
+    gScreenServices.techHelp = sfvel_TechHelp;
     gMenuScreens.repairOrders = [](QWidget* parent) {
         return std::make_unique<TfrmCRO100>(parent);
     };

@@ -15,6 +15,7 @@ void setMainFormClose(std::function<void()> close) {
 void terminateApplication() {
     if (closeMainForm) {
         closeMainForm();
+    } else {
+        QCoreApplication::exit(0);
     }
-    QCoreApplication::exit(0);
 }

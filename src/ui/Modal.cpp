@@ -1,5 +1,7 @@
 #include "ui/Modal.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 #include <utility>
@@ -7,14 +9,42 @@
 namespace velcro::ui {
 
 namespace {
+
 ModalWatcher modalWatcher;
+
+/// A form whose show event asks something first is met after that question, when it takes keys.
+void watch(QDialog& dialog) {
+    QTimer::singleShot(0, &dialog, [&dialog] {
+        if (!modalWatcher) {
+            return;
+        }
+        if (QApplication::activeModalWidget() == &dialog) {
+            modalWatcher(dialog);
+        } else {
+            watch(dialog);
+        }
+    });
 }
 
-int runModal(QDialog& dialog) {
-    if (modalWatcher) {
-        QTimer::singleShot(0, &dialog, [&dialog] { modalWatcher(dialog); });
+/// Not every system gives the keyboard back to the window underneath.
+void activateBelow(QWidget* before) {
+    auto* modal = QApplication::activeModalWidget();
+    auto* below = modal != nullptr ? modal : before;
+    if (below != nullptr && below->isVisible()) {
+        below->activateWindow();
     }
-    return dialog.exec();
+}
+
+} // namespace
+
+int runModal(QDialog& dialog) {
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    if (modalWatcher) {
+        watch(dialog);
+    }
+    const int result = dialog.exec();
+    activateBelow(before);
+    return result;
 }
 
 void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,

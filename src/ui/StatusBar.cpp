@@ -77,6 +77,14 @@ QRect StatusBar::panelRect(int panel) const {
     return {left, 0, wanted.width < 0 ? share : fixedWidth(wanted), height()};
 }
 
+int StatusBar::textWidth() const {
+    int whole = 0;
+    for (const auto& p : panels_) {
+        whole += fontMetrics().horizontalAdvance(p.text) + 2 * padding;
+    }
+    return whole;
+}
+
 QSize StatusBar::sizeHint() const {
     return {200, std::max(lowestHeight, fontMetrics().height() + 12)};
 }

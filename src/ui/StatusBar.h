@@ -35,6 +35,8 @@ public:
     QString panelText(int panel) const { return panels_.at(panel).text; }
     void setPanelText(int panel, const QString& text);
     QRect panelRect(int panel) const;
+    /// Pixels that the texts of all panels take side by side, with the room around each.
+    int textWidth() const;
 
     /// What an owner-drawn panel says, for screen readers: drawing is silent.
     void setSpokenText(int panel, const QString& text);
