@@ -133,7 +133,7 @@ const ComboLoader loaders[] = {
     {"SysCountryMst", "[CountryCode], [CountryName]", Everywhere},
     {"SysLanguageMst", "[LanguageCode], [LanguageName]", Everywhere},
     {"SysPaymentMethods", plain, Everywhere},
-    {"STKDEPT", "[Dept], [Description]"},
+    {"STKDEPT", "[DeptCode], [DeptName]"},
     {"STKSUBDEPT", "[SubDept], [Description]"},
     {"PACKSIZES", "[PackSize], [Description]"},
     {"STKMSTGLPOSTGROUP", plain},

@@ -1,6 +1,7 @@
 #include "data/Connection.h"
 
 #include "data/Errors.h"
+#include "data/Prompts.h"
 #include "data/Statement.h"
 #include "platform/sqlserver/embedded/EmbeddedConnection.h"
 
@@ -166,7 +167,21 @@ void Connection::settle() {
         return;
     }
     directWork_ = false;
-    guarded([this] { link_->commit(); });
+    try {
+        guarded([this] { link_->commit(); });
+    } catch (const SqlError&) {
+        rollbackAfterFailure(); // a commit that failed still holds its locks
+        throw;
+    }
+}
+
+void Connection::rollbackAfterFailure() noexcept {
+    try {
+        Rollback();
+    } catch (const std::exception& error) {
+        // The server has ended the transaction itself; the failure before it is what counts.
+        qWarning("Rollback: %s", error.what());
+    }
 }
 
 // The embedded end holds the database's write lock while work waits for its commit, and other
@@ -182,7 +197,12 @@ void Connection::noteDirectWork() {
     settleScheduled_ = true;
     QTimer::singleShot(0, this, [this] {
         settleScheduled_ = false;
-        settle();
+        try {
+            settle();
+        } catch (const std::exception& error) {
+            // Whoever did the work has long returned: here it can only be told.
+            errorBox(QStringLiteral("Error"), QLatin1String("SQL Error\r") + errorText(error));
+        }
     });
 }
 

@@ -67,9 +67,13 @@ public:
     void StartTransaction();
     void Commit();
     void Rollback();
+    /// The same when a failure is already on its way to the user: one of its own is only logged.
+    void rollbackAfterFailure() noexcept;
     bool InTransaction() const { return inTransaction_; }
 
-    /// Makes durable what was run outside a transaction on a connection without auto-commit.
+    /// Makes durable what was run outside a transaction on a connection without auto-commit. Where
+    /// that fails the work is taken back and SqlError thrown. On the embedded end it happens by
+    /// itself as soon as control is back in the event loop, and a failure there is shown.
     void settle();
 
     /// Runs a batch by the lost-connection rule of this connection and gives the result of each of

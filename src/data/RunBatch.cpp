@@ -8,15 +8,6 @@
 
 namespace {
 
-void rollBack(Connection& connection) {
-    try {
-        connection.Rollback();
-    } catch (const std::exception& error) {
-        // The server has ended the transaction itself; the batch's own failure is what counts.
-        qWarning("Rollback: %s", error.what());
-    }
-}
-
 void report(const BatchRules& rules, const QString& reason) {
     switch (rules.onFailure) {
     case BatchRules::OnFailure::MessageBox:
@@ -65,7 +56,7 @@ bool runBatch(TextLines& buffer, Statement& writer, const BatchRules& rules) {
     } catch (const std::exception& error) {
         const QString reason = errorText(error);
         if (rules.transaction) {
-            rollBack(*rules.transaction);
+            rules.transaction->rollbackAfterFailure();
         }
         writeFailureFile(rules.failureFile, text);
         report(rules, reason);

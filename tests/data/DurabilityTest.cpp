@@ -1,0 +1,154 @@
+#include "data/DataModules.h"
+#include "data/Prompts.h"
+#include "data/RunBatch.h"
+#include "data/Session.h"
+#include "data/StatementText.h"
+#include "support/Desk.h"
+#include "support/DroppingServer.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Work on real databases, looked at by another seat, over a connection that can break.
+class DurabilityTest : public testing::Test
+{
+protected:
+    static QString technician(const char* code) {
+        return QStringLiteral("INSERT INTO CROTechMst ([CO], [TechCode]) VALUES ('01', '%1')")
+            .arg(code);
+    }
+    static void runDirectly(Connection& connection, const QString& statement) {
+        Statement work(connection);
+        work.SQL.Add(statement);
+        work.ExecSQL();
+    }
+    /// What another seat sees.
+    QString others(const QString& select, const QString& database = "VELSUITE") const {
+        Connection other(ConnectionOptions{});
+        other.setConnectString(
+            sfg_BuildUNIConnectionStr("embedded:" + desk.databases(), database, {}, {}, {}, {}));
+        other.Connect();
+        Statement query(other);
+        query.SQL.Add(select);
+        query.Open();
+        return query.Fields(0).AsString();
+    }
+    QString technicians(const char* codes) const {
+        return others(QStringLiteral("SELECT COUNT(*) FROM CROTechMst WHERE [TechCode] LIKE '%1'")
+                          .arg(codes));
+    }
+
+    velcro::test::DroppingServer server;
+    velcro::test::Desk desk;
+};
+
+} // namespace
+
+TEST_F(DurabilityTest, directWorkIsKeptOnceTheUserHasControlAndHoldsNobodyUp) {
+    runDirectly(gData->Velmara, technician("D1"));
+    EXPECT_EQ(technicians("D_"), "0") << "it waits for its commit";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(technicians("D_"), "1");
+    desk.onSuite(technician("D2")); // would wait for the lock, and fail
+
+    // The same in the loop of a modal form.
+    runDirectly(gData->Velmara, technician("D3"));
+    QEventLoop form;
+    QTimer::singleShot(0, &form, [&] {
+        EXPECT_EQ(technicians("D_"), "3");
+        form.quit();
+    });
+    form.exec();
+}
+
+TEST_F(DurabilityTest, directWorkIsKeptAtAnOrderlyEndAndByTheNextCommit) {
+    runDirectly(gData->Velmara, technician("E1"));
+    sfg_AddSQL(technician("E2"), "NEW");
+    EXPECT_TRUE(gData->vel_ExecSQL(1));
+    EXPECT_EQ(technicians("E_"), "2");
+    runDirectly(gData->Velmara, technician("E3"));
+    freeDataModules();
+    EXPECT_EQ(technicians("E_"), "3");
+}
+
+TEST_F(DurabilityTest, aCommitThatFailsInTheEventLoopIsToldAndLetsGoOfTheLock) {
+    runDirectly(gData->Velmara, technician("F1"));
+    server.dropAt(1);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(server.dropped());
+    EXPECT_EQ(desk.shown, QStringList{"box|SQL Error\rCommunication link failure."});
+    EXPECT_EQ(technicians("F_"), "0");
+    desk.onSuite(technician("F2"));
+    runDirectly(gData->Velmara, technician("F3"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(technicians("F_"), "2");
+}
+
+TEST_F(DurabilityTest, aSuiteBatchWhoseServerGoesAwayIsTakenBackAndNeverRunAgain) {
+    const char* const calls[] = {"", "begin", "the batch", "commit"};
+    for (int call = 1; call <= 3; ++call) {
+        SCOPED_TRACE(calls[call]);
+        desk.shown.clear();
+        server.statements = 0;
+        server.dropAt(call);
+        sfg_AddSQL(technician("G1"), "NEW");
+        sfg_AddSQL(technician("G2"), "");
+        if (call == 1) {
+            EXPECT_THROW(gData->vel_ExecSQL(1), velcro::sql::SqlError);
+        } else {
+            EXPECT_FALSE(gData->vel_ExecSQL(1));
+            EXPECT_EQ(desk.shown, QStringList{"box|SQL Error\rCommunication link failure."});
+            QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            EXPECT_EQ(QString::fromUtf8(file.readAll()),
+                      technician("G1") + " ;\n" + technician("G2") + " ;");
+        }
+        EXPECT_TRUE(server.dropped());
+        EXPECT_LE(server.statements, 1) << "it must not be sent twice";
+        EXPECT_EQ(technicians("G_"), "0");
+    }
+    sfg_AddSQL(technician("G1"), "NEW");
+    EXPECT_TRUE(gData->vel_ExecSQL(1)) << "the screen is still open and the user tries again";
+    EXPECT_EQ(technicians("G_"), "1");
+}
+
+TEST_F(DurabilityTest, aLostReadIsRunAgainOnTheCommonAndTheTillConnectionOnly) {
+    tData->ConnectDB_TIL();
+    server.dropAt(1);
+    EXPECT_EQ(desk.common("SELECT COUNT(*) FROM vcVersions"), "4");
+    EXPECT_TRUE(server.dropped());
+    server.dropAt(1);
+    tData->tQuery1.SQL.Add("SELECT 7");
+    tData->tQuery1.Open();
+    EXPECT_EQ(tData->tQuery1.Fields(0).AsInteger(), 7);
+    EXPECT_TRUE(server.dropped());
+    server.dropAt(1);
+    EXPECT_THROW(desk.suite("SELECT COUNT(*) FROM CROTechMst"), velcro::sql::SqlError);
+    EXPECT_NE(desk.suite("SELECT COUNT(*) FROM CROTechMst"), "0");
+    EXPECT_TRUE(desk.shown.isEmpty());
+}
+
+TEST_F(DurabilityTest, aLostTillBatchRunsOnceAndOneLostAtItsCommitIsNotRunAgain) {
+    tData->ConnectDB_TIL();
+    sfg_AddSQL("CREATE TABLE [TillWork] ([A] int)", "NEW");
+    ASSERT_TRUE(tData->til_ExecSQL(1)) << gErrorMsg.toStdString();
+    const auto till = [this] { return others("SELECT COUNT(*) FROM [TillWork]", "VELTILL"); };
+    for (int call = 1; call <= 2; ++call) {
+        server.dropAt(call); // begin, the batch
+        sfg_AddSQL("INSERT INTO [TillWork] VALUES (1)", "NEW");
+        EXPECT_TRUE(tData->til_ExecSQL(1)) << gErrorMsg.toStdString();
+        EXPECT_TRUE(server.dropped());
+        EXPECT_EQ(till(), QString::number(call));
+    }
+    server.dropAt(3);
+    sfg_AddSQL("INSERT INTO [TillWork] VALUES (1)", "NEW");
+    EXPECT_FALSE(tData->til_ExecSQL(1)) << "nobody knows what became of a lost commit";
+    EXPECT_TRUE(gErrorMsg.endsWith("Communication link failure.")) << gErrorMsg.toStdString();
+    EXPECT_EQ(till(), "2");
+}
