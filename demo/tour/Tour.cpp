@@ -2,7 +2,9 @@
 
 #include "ui/Modal.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -55,6 +57,8 @@ void Tour::start() {
 
 void Tour::walk() {
     if (road_.empty()) {
+        fail(QStringLiteral("the program still runs at the end of the road"));
+        QCoreApplication::exit(1);
         return;
     }
     const Planned next = std::move(road_.front());
@@ -83,10 +87,15 @@ void Tour::meet(QDialog& form) {
     const Expected expected = std::move(expected_.front());
     expected_.pop_front();
     picture(form, expected.name);
+    const QPointer<QDialog> guard(&form);
     try {
         expected.steps(form);
     } catch (const std::exception& error) {
         fail(QString::fromUtf8(error.what()));
+    }
+    if (guard && guard->isVisible()) {
+        fail(QStringLiteral("\"%1\" is still open").arg(guard->windowTitle()));
+        guard->reject();
     }
 }
 
@@ -94,4 +103,29 @@ void Tour::press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) 
     QWidget* target = widget.focusWidget() != nullptr ? widget.focusWidget() : &widget;
     QTest::keyClick(target, key, modifiers);
     QApplication::processEvents();
+}
+
+void Tour::type(QWidget& form, const QString& text) {
+    for (const QChar letter : text) {
+        if (form.focusWidget() == nullptr) {
+            throw std::runtime_error("typed where nothing has the focus");
+        }
+        QTest::keyClick(form.focusWidget(), letter.toLatin1());
+    }
+    QApplication::processEvents();
+}
+
+void Tour::click(QWidget& form, const QString& button) {
+    auto& control = find<QAbstractButton>(form, button);
+    if (!control.isVisible() || !control.isEnabled()) {
+        throw std::runtime_error("nobody can click " + button.toStdString());
+    }
+    QTest::mouseClick(&control, Qt::LeftButton);
+    QApplication::processEvents();
+}
+
+void Tour::check(bool isSo, const QString& what) {
+    if (!isSo) {
+        fail(what);
+    }
 }

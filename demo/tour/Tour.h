@@ -8,7 +8,7 @@
 
 #include <deque>
 #include <functional>
-#include <vector>
+#include <stdexcept>
 
 class Tour
 {
@@ -33,8 +33,24 @@ public:
     void start();
 
     void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// What did not go as the road says.
-    int failures() const { return failures_; }
+    /// Letter by letter into the control that has the focus.
+    void type(QWidget& form, const QString& text);
+    void click(QWidget& form, const QString& button);
+    /// Says so, and fails the tour, when what the road expects is not so.
+    void check(bool isSo, const QString& what);
+
+    /// Throws when there is no such control on the form; a blank name stands for the only one.
+    template <typename Control>
+    Control& find(QWidget& form, const QString& name) {
+        auto* found = form.findChild<Control*>(name);
+        if (found == nullptr) {
+            throw std::runtime_error("there is no control " + name.toStdString());
+        }
+        return *found;
+    }
+
+    /// The whole road was walked and everything went as it says.
+    bool arrived() const { return failures_ == 0 && road_.empty() && expected_.empty(); }
 
 private:
     struct Expected

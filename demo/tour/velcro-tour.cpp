@@ -2,149 +2,22 @@
 //   velcro-tour <output folder> [<width>x<height>]
 // Finds the sample databases as the program does. Exit status 1 when something did not go as the
 // road says.
-#include "Tour.h"
+#include "Steps.h"
 
 #include "application/Program.h"
-#include "application/SysFuncGlobal.h"
-#include "data/Prompts.h"
-#include "data/Session.h"
 #include "ui/Theme.h"
 
 #include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTemporaryFile>
 
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
-#include <utility>
 
 namespace {
-
-QPushButton& button(QWidget& on, const QString& name) {
-    auto* found = on.findChild<QPushButton*>(name);
-    if (found == nullptr) {
-        throw std::runtime_error("there is no button " + name.toStdString());
-    }
-    return *found;
-}
-
-void type(QWidget& form, const QString& edit, const QString& text) {
-    auto* found = form.findChild<QLineEdit*>(edit);
-    if (found == nullptr) {
-        throw std::runtime_error("there is no edit " + edit.toStdString());
-    }
-    found->setFocus();
-    found->setText(text);
-}
-
-// The main form opens the log-in by itself; the road begins once the menu is live.
-void signIn(Tour& tour) {
-    tour.expect({}, QStringLiteral("log-in"), [&tour](QDialog& form) {
-        tour.say(QStringLiteral("Signing in as COUNTER1."));
-        type(form, QStringLiteral("edUserCode"), QStringLiteral("COUNTER1"));
-        type(form, QStringLiteral("edUserPswd"), QStringLiteral("COUNTER"));
-        button(form, QStringLiteral("btnOK")).click();
-    });
-}
-
-void addMenus(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("The main menu."),
-              [&] { tour.picture(menu, QStringLiteral("menu")); });
-    tour.then(QStringLiteral("F7 opens the reports menu, Esc leads back."), [&] {
-        tour.press(menu, Qt::Key_F7);
-        tour.picture(menu, QStringLiteral("menu-reports"));
-        tour.press(menu, Qt::Key_Escape);
-    });
-    tour.then(QStringLiteral("F8 opens the configuration menu, Esc leads back."), [&] {
-        tour.press(menu, Qt::Key_F8);
-        tour.picture(menu, QStringLiteral("menu-configuration"));
-        tour.press(menu, Qt::Key_Escape);
-    });
-}
-
-void addMessage(Tour& tour, const QString& text, const QString& title, const QString& name,
-                Tour::Step show) {
-    tour.then(text, [&tour, title, name, show = std::move(show)] {
-        tour.expect(title, name, [&tour](QDialog& form) { tour.press(form, Qt::Key_Return); });
-        show();
-    });
-}
-
-void addDialogs(Tour& tour) {
-    addMessage(tour, QStringLiteral("An information."),
-               QStringLiteral("System  Information Message"), QStringLiteral("information"),
-               [] { sfg_InfoDlg("Repair order R000123 was saved.", 0); });
-    addMessage(tour, QStringLiteral("A message."), QStringLiteral("System Message"),
-               QStringLiteral("message"),
-               [] { sfg_MessageDlg("The grid was restored to its first layout.", 0); });
-    addMessage(tour, QStringLiteral("A warning."), QStringLiteral("System Warning"),
-               QStringLiteral("warning"), [] {
-                   sfg_WarningDlg("The item has no warranty date. It will be repaired at the "
-                                  "customer's cost.",
-                                  0);
-               });
-    addMessage(tour, QStringLiteral("A right that the user lacks."),
-               QStringLiteral("Security Access"), QStringLiteral("access"),
-               [] { sfg_AccessDlg("CRO [12]", "SysFuncVelmara", "sfvel_CheckUserAccess", 0); });
-    addMessage(tour, QStringLiteral("An error."), QStringLiteral("System Error"),
-               QStringLiteral("error"), [] {
-                   sfg_ErrorDlg("100-001",
-                                "SQL Error reading object \"CRORepMst\". Details: \rInvalid object "
-                                "name 'CRORepMst'.",
-                                "CRO100", "BuildGrid");
-               });
-    addMessage(tour, QStringLiteral("An error with something to suggest."),
-               QStringLiteral("System Error"), QStringLiteral("error-with-suggestion"), [] {
-                   gErrorComment = "Ask the supervisor to open the accounting period, then try "
-                                   "again.";
-                   sfg_ErrorDlg("200-014", "The accounting period is closed.", "CRO100A",
-                                "Validation");
-               });
-}
-
-void addNotices(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("Another version is registered: the notice, passed with Ctrl+F12."),
-              [&tour] {
-                  tour.expect(QStringLiteral("VELMARA : Program Version Mismatch"),
-                              QStringLiteral("version"), [&tour](QDialog& form) {
-                                  tour.press(form, Qt::Key_F12, Qt::ControlModifier);
-                              });
-                  const QString registered = std::exchange(gSystemVersion, "14.48.00");
-                  sfg_VersionDlg();
-                  gSystemVersion = registered;
-              });
-    tour.then(QStringLiteral("The seat stood idle: the count-down, and the user is back."),
-              [&tour, &menu] {
-                  tour.expect(QStringLiteral("Application Shutdown"), QStringLiteral("idle"),
-                              [&tour](QDialog& form) { tour.press(form, Qt::Key_Escape); });
-                  emit menu.ExeIdle->idle();
-              });
-}
-
-void addRegister(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("F2 opens the register of repair orders."), [&tour, &menu] {
-        tour.expect(QStringLiteral("Workshop Centre: Repair Orders Management"),
-                    QStringLiteral("register"),
-                    [&tour](QDialog& form) { tour.press(form, Qt::Key_Escape); });
-        tour.press(menu, Qt::Key_F2);
-    });
-}
-
-void addExit(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("Esc asks whether to leave; N stays, Y leaves."), [&tour, &menu] {
-        tour.expect(QStringLiteral("System Prompt"), QStringLiteral("exit"),
-                    [&tour](QDialog& form) { tour.press(form, Qt::Key_N); });
-        tour.press(menu, Qt::Key_Escape);
-        tour.expect(QStringLiteral("System Prompt"), QStringLiteral("exit-again"),
-                    [&tour](QDialog& form) { tour.press(form, Qt::Key_Y); });
-        tour.press(menu, Qt::Key_Escape);
-    });
-}
 
 /// The offscreen platform reads the size of its screen from a file.
 void useScreen(QTemporaryFile& file, const QString& size) {
@@ -174,7 +47,7 @@ int walk(int argc, char** argv) {
     velcro::ui::applyTheme(application);
     Tour tour(QString::fromLocal8Bit(argv[1]));
     Program program({});
-    signIn(tour);
+    expectLogIn(tour);
     addMenus(tour, program.mainForm());
     addRegister(tour, program.mainForm());
     addDialogs(tour);
@@ -183,7 +56,7 @@ int walk(int argc, char** argv) {
     QObject::connect(&program.mainForm(), &TfrmMAIN000::menuIsLive, &application,
                      [&tour] { tour.start(); });
     const int status = program.run();
-    return status != 0 || tour.failures() > 0 ? 1 : 0;
+    return status != 0 || !tour.arrived() ? 1 : 0;
 }
 
 } // namespace

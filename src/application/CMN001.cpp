@@ -40,9 +40,11 @@ TfrmCMN001::TfrmCMN001(const QString& errorNo, const QString& message, const QSt
                        const QString& routine)
     : MessageForm(failure) {
     body().setSpacing(3);
-    addFact(QStringLiteral("lblErrorNo"), tr("Error Number"), errorNo);
-    addFact(QStringLiteral("lblPrgName"), tr("Program"), prgName);
-    addFact(QStringLiteral("lblRoutine"), tr("Routine"), routine);
+    auto* where = new QHBoxLayout; // one line, so that the text has room on a form this low
+    body().addLayout(where);
+    addFact(QStringLiteral("lblErrorNo"), tr("Error Number"), errorNo, where);
+    addFact(QStringLiteral("lblPrgName"), tr("Program"), prgName, where);
+    addFact(QStringLiteral("lblRoutine"), tr("Routine"), routine, where);
     auto* edMessage =
         addText(QStringLiteral("edMessage"), QStringLiteral("\r") + message, tr("Error"));
     edMessage->setMinimumHeight(60);

@@ -104,9 +104,11 @@ void TfrmMAIN000::makeBars() {
 /// Tiles grow with the screen that the form is first shown on; the panels keep their places.
 QSize TfrmMAIN000::tileSize() const {
     const QSize room = QGuiApplication::primaryScreen()->availableSize();
-    const double scale =
-        std::clamp(std::min(room.width() / 1024.0, room.height() / 768.0), 0.6, 1.5);
-    return QSize(qRound(290 * scale), qRound(104 * scale));
+    const auto around = [](QPoint place) { return place.y() + 2 * barHeight; };
+    const double wide = std::clamp(room.width() / 1024.0, 0.6, 1.5);
+    const double high = std::clamp(
+        (room.height() - around(mainMenuPlace)) / double(768 - around(mainMenuPlace)), 0.48, 1.5);
+    return QSize(qRound(290 * wide), qRound(104 * high));
 }
 
 MenuTile* TfrmMAIN000::makeTile(const Entry& entry, const QSize& size) {

@@ -20,9 +20,11 @@ MessageForm::MessageForm(const MessageLook& look) {
     whole->addWidget(makeBand(look));
     body_ = new QVBoxLayout;
     body_->setContentsMargins(20, 14, 20, 6);
+    body_->setSpacing(6);
     whole->addLayout(body_, 1);
     buttons_ = new QHBoxLayout;
     buttons_->setContentsMargins(20, 8, 20, 14);
+    buttons_->setSpacing(12);
     buttons_->addStretch();
     whole->addLayout(buttons_);
     resize(560, 300);
@@ -68,10 +70,11 @@ QPlainTextEdit* MessageForm::addText(const QString& name, const QString& text,
     return edit;
 }
 
-QLabel* MessageForm::addFact(const QString& name, const QString& title, const QString& value) {
-    auto* row = new QHBoxLayout;
+QLabel* MessageForm::addFact(const QString& name, const QString& title, const QString& value,
+                             QHBoxLayout* beside) {
+    auto* row = beside != nullptr ? beside : new QHBoxLayout;
     auto* caption = new QLabel(title, this);
-    caption->setMinimumWidth(120);
+    caption->setMinimumWidth(beside != nullptr ? 0 : 160);
     auto* label = new QLabel(value, this);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
@@ -82,7 +85,9 @@ QLabel* MessageForm::addFact(const QString& name, const QString& title, const QS
     label->setFont(font);
     row->addWidget(caption);
     row->addWidget(label, 1);
-    body_->addLayout(row);
+    if (beside == nullptr) {
+        body_->addLayout(row);
+    }
     return label;
 }
 
@@ -93,6 +98,9 @@ QPushButton* MessageForm::addButton(const QString& name, const QString& caption,
     button->setAutoDefault(false);
     button->setMinimumSize(140, 44);
     sfg_ImageKeybd16(*button, key);
+    if (!button->icon().isNull() && !caption.startsWith(QLatin1Char(' '))) {
+        button->setText(QLatin1Char(' ') + caption); // off the key cap
+    }
     buttons_->addWidget(button);
     return button;
 }

@@ -33,7 +33,9 @@ public:
 
 protected:
     QPlainTextEdit* addText(const QString& name, const QString& text, const QString& spoken);
-    QLabel* addFact(const QString& name, const QString& title, const QString& value);
+    /// On a line of its own, or beside other facts in a row that the caller gives.
+    QLabel* addFact(const QString& name, const QString& title, const QString& value,
+                    QHBoxLayout* beside = nullptr);
     QPushButton* addButton(const QString& name, const QString& caption, const QString& key);
     /// btnClose, which Enter clicks from anywhere on the form.
     QPushButton* addCloseButton(const QString& caption);

@@ -55,7 +55,7 @@ void MenuTile::paintEvent(QPaintEvent* /*event*/) {
                                   live ? QIcon::Normal : QIcon::Disabled);
 
         QFont letters = font();
-        letters.setPixelSize(std::max(10, std::min(height() / 6, width() / 15)));
+        letters.setPixelSize(std::max(11, std::min(height() / 6, width() / 15)));
         letters.setBold(true);
         painter.setFont(letters);
         painter.setPen(live ? QColor(Qt::white) : QColor(greyedInk));

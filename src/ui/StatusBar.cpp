@@ -102,8 +102,10 @@ void StatusBar::paintEvent(QPaintEvent* /*event*/) {
                 painter.restore();
             } else {
                 painter.setPen(palette().windowText().color());
-                painter.drawText(inside.adjusted(padding, 0, -padding, 0), Qt::AlignVCenter,
-                                 panels_[i].text);
+                const QRect text = inside.adjusted(padding, 0, -padding, 0);
+                painter.drawText(
+                    text, Qt::AlignVCenter,
+                    fontMetrics().elidedText(panels_[i].text, Qt::ElideRight, text.width()));
             }
             painter.setPen(palette().mid().color());
             painter.drawLine(inside.topRight(), inside.bottomRight());

@@ -1,0 +1,16 @@
+// The road of the tour, one area of the program after the other; each area has a file of its own.
+#pragma once
+
+#include "Tour.h"
+
+#include "application/MAIN000.h"
+
+/// The log-in, by keyboard. The main form opens it by itself, before the road begins.
+void expectLogIn(Tour& tour);
+
+void addMenus(Tour& tour, TfrmMAIN000& menu);
+void addRegister(Tour& tour, TfrmMAIN000& menu);
+void addDialogs(Tour& tour);
+void addNotices(Tour& tour, TfrmMAIN000& menu);
+/// The last steps: the program ends.
+void addExit(Tour& tour, TfrmMAIN000& menu);
