@@ -107,7 +107,7 @@ QSize TfrmMAIN000::tileSize() const {
     const auto around = [](QPoint place) { return place.y() + 2 * barHeight; };
     const double wide = std::clamp(room.width() / 1024.0, 0.6, 1.5);
     const double high = std::clamp(
-        (room.height() - around(mainMenuPlace)) / double(768 - around(mainMenuPlace)), 0.48, 1.5);
+        (room.height() - around(mainMenuPlace)) / double(768 - around(mainMenuPlace)), 0.6, 1.5);
     return QSize(qRound(290 * wide), qRound(104 * high));
 }
 

@@ -49,13 +49,15 @@ void MenuTile::paintEvent(QPaintEvent* /*event*/) {
         const int side = height() * 2 / 5;
         (live ? picture_ : greyedPicture_)
             .paint(&painter, QRect(2 * unit, unit * 3 / 2, side, side));
-        const QRect corner(QPoint(width() - iconSize().width() - 2 * unit, unit * 3 / 2),
-                           iconSize());
+        const QSize cap = iconSize().height() <= side
+                              ? iconSize()
+                              : iconSize().scaled(width(), side, Qt::KeepAspectRatio);
+        const QRect corner(QPoint(width() - cap.width() - 2 * unit, unit * 3 / 2), cap);
         QPushButton::icon().paint(&painter, corner, Qt::AlignCenter,
                                   live ? QIcon::Normal : QIcon::Disabled);
 
         QFont letters = font();
-        letters.setPixelSize(std::max(11, std::min(height() / 6, width() / 15)));
+        letters.setPixelSize(std::max(10, std::min(height() / 6, width() / 15)));
         letters.setBold(true);
         painter.setFont(letters);
         painter.setPen(live ? QColor(Qt::white) : QColor(greyedInk));

@@ -11,6 +11,7 @@ namespace velcro::ui {
 
 namespace {
 constexpr int padding = 10;
+constexpr int rounding = 2; // of text widths at fractional scales
 constexpr int lowestHeight = 32;
 } // namespace
 
@@ -103,9 +104,9 @@ void StatusBar::paintEvent(QPaintEvent* /*event*/) {
             } else {
                 painter.setPen(palette().windowText().color());
                 const QRect text = inside.adjusted(padding, 0, -padding, 0);
-                painter.drawText(
-                    text, Qt::AlignVCenter,
-                    fontMetrics().elidedText(panels_[i].text, Qt::ElideRight, text.width()));
+                painter.drawText(text, Qt::AlignVCenter,
+                                 fontMetrics().elidedText(panels_[i].text, Qt::ElideRight,
+                                                          text.width() + rounding));
             }
             painter.setPen(palette().mid().color());
             painter.drawLine(inside.topRight(), inside.bottomRight());
