@@ -8,7 +8,8 @@
 
 namespace {
 
-void toErrorOutput(const QString& title, const QString& text) {
+void toErrorOutput(const QString& title, QString text) {
+    text.replace(QLatin1Char('\r'), QLatin1Char(' ')); // a terminal would begin its line again
     std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(text));
 }
 

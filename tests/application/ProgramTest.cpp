@@ -1,0 +1,306 @@
+#include "application/Program.h"
+
+#include "application/SessionFile.h"
+#include "data/DataModules.h"
+#include "data/Session.h"
+#include "platform/seat/Folders.h"
+#include "support/Desk.h"
+#include "support/OrdinaryUser.h"
+#include "support/ScriptedUser.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using velcro::test::Desk;
+namespace fs = std::filesystem;
+
+namespace {
+
+// The whole program from its command line to its exit status, on a seat of its own.
+class ProgramTest : public testing::Test
+{
+protected:
+    // The common database has the title, under the name that the program is installed by.
+    ProgramTest() { gEXETitle = QStringLiteral("Repair Orders"); }
+
+    /// Exit status. atMenu is what the user does once the menu is live; without it the menu must
+    /// not come up.
+    int start(const QStringList& arguments, const std::function<void()>& atMenu = {}) {
+        Program program(arguments);
+        menuWasLive = false;
+        QObject::connect(&program.mainForm(), &TfrmMAIN000::menuIsLive, &program.mainForm(), [&] {
+            menuWasLive = true;
+            if (atMenu) {
+                atMenu();
+            }
+            program.mainForm().close();
+        });
+        const int status = program.run();
+        EXPECT_EQ(menuWasLive, bool(atMenu));
+        return status;
+    }
+    /// The user reads an error form and closes it.
+    void expectError(QString& text) {
+        user.expectForm("System Error", [this, &text] {
+            text = user.find<QPlainTextEdit>("edMessage").toPlainText();
+            user.click("btnClose");
+        });
+    }
+    /// The user reads a message box and closes it.
+    void expectBox(const QString& title, QString& text) {
+        user.expectForm(title, [this, &text] {
+            text = dynamic_cast<QMessageBox&>(user.form()).text();
+            user.press(Qt::Key_Escape);
+        });
+    }
+    void expectLogIn() {
+        user.expectForm("Log-In : " + gEXETitle, [this] { user.click("btnCancel"); });
+    }
+    void configure(const QByteArray& text) const {
+        QFile file(desk.configurationFile());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(text);
+    }
+    QByteArray configuration(const QString& databases) const {
+        return "[Common]\nHost=embedded:" + databases.toUtf8() + "\nDBName=VELCOMMON\n" +
+               "[Till]\nCompany=01\nBranch=100\n[HelpDevice]\nBDActive =N\n";
+    }
+    static QString recID(const char* displayName) {
+        cData->ConnectDB_Common();
+        return Desk::common(QStringLiteral("SELECT [RecID] FROM vcSettings WHERE [DisplayName] = "
+                                           "'%1'")
+                                .arg(displayName));
+    }
+    /// Every file below a folder with its size and time.
+    static QStringList listing(const QString& folder) {
+        QStringList entries;
+        std::error_code error;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.toStdString(), error)) {
+            entries << QString::fromStdString(entry.path().string()) + " " +
+                           (entry.is_regular_file() ? QString::number(entry.file_size())
+                                                    : "folder");
+        }
+        entries.sort();
+        return entries;
+    }
+
+    Desk desk{Desk::Start::Configured};
+    ScriptedUser user;
+    bool menuWasLive = false;
+};
+
+} // namespace
+
+TEST_F(ProgramTest, sixArgumentsOpenTheMenuWithoutAForm) {
+    const QString number = recID("Brindavel Harbour Row");
+    const auto atMenu = [] {
+        EXPECT_EQ(gUserCode + "|" + gCO + "|" + gBranch, "COUNTER3|01|101");
+        EXPECT_EQ(gSvrCatCode, "");
+        EXPECT_TRUE(gData->Velmara.Connected());
+        EXPECT_EQ(gVersion, "14.47.41");
+    };
+    EXPECT_EQ(start({"COUNTER3", "COUNTER3", number, "01", "101", "x"}, atMenu), 0);
+    EXPECT_EQ(start({"%SHOPS AND MORE", "COUNTER3", "COUNTER3", number, "01", "101"},
+                    [] {
+                        EXPECT_EQ(gUserCode, "COUNTER3");
+                        EXPECT_EQ(gSvrCatCode, "SHOPS AND");
+                    }),
+              0);
+}
+
+TEST_F(ProgramTest, otherCommandLinesLeadToTheLogInFormOrToTheirError) {
+    const QString number = recID("Brindavel Central Workshop");
+    const QStringList good = {"COUNTER1", "COUNTER", number, "01", "100", "x"};
+    struct
+    {
+        const char* what;
+        QStringList arguments;
+    } const cases[] = {
+        {"none", {}},
+        {"five", good.mid(0, 5)},
+        {"a blank user", {" ", "COUNTER", number, "01", "100", "x"}},
+        {"a blank number", {"COUNTER1", "COUNTER", " ", "01", "100", "x"}},
+        {"an unknown number", {"COUNTER1", "COUNTER", "4711", "01", "100", "x"}},
+        {"an unknown user", {"NOBODY", "COUNTER", number, "01", "100", "x"}},
+    };
+    for (const auto& [what, arguments] : cases) {
+        SCOPED_TRACE(what);
+        expectLogIn();
+        EXPECT_EQ(start(arguments), 1);
+    }
+    QString told;
+    expectBox(gEXETitle, told);
+    EXPECT_EQ(start({"COUNTER1", "COUNTER", "seven", "01", "100", "x"}), 1);
+    EXPECT_EQ(told, "'seven' is not a valid integer value");
+    expectBox("Log-in Process", told);
+    expectLogIn();
+    EXPECT_EQ(start({"COUNTER1", "WRONG", number, "01", "100", "x"}), 1);
+    EXPECT_EQ(told, "Password is INVALID");
+}
+
+TEST_F(ProgramTest, aConfigurationThatCannotBeReadIsToldAndLeftAlone) {
+    const QString file = desk.configurationFile();
+    const QString shared = QDir::cleanPath(QFileInfo(file).path() + "/../../..");
+    QString told;
+    struct
+    {
+        const char* what;
+        std::function<void()> spoil;
+        const char* reason;
+    } const cases[] = {
+        {"binary",
+         [&] {
+             configure(QByteArray("\x7f"
+                                  "ELF\0\1\2",
+                                  7));
+         },
+         "it is no text file."},
+        {"no section", [&] { configure("Host=h\n"); }, "is garbled in line 1"},
+        {"empty", [&] { configure(""); }, "it has no section."},
+        {"cut off", [&] { configure("[Common]\nHost=h\nDBNa"); }, "is garbled in line 3"},
+        {"a folder", [&] { QFile::remove(file), QDir().mkpath(file); }, "cannot be read"},
+        {"missing", [&] { QDir(file).removeRecursively(); }, "was not found: there is no"},
+        {"no folder", [&] { QDir(QFileInfo(file).path()).removeRecursively(); }, "/MSHelp16."},
+        {"nothing", [&] { QDir(shared).removeRecursively(); }, "there is neither a folder"},
+    };
+    for (const auto& [what, spoil, reason] : cases) {
+        SCOPED_TRACE(what);
+        spoil();
+        const QStringList before = listing(shared);
+        expectError(told);
+        EXPECT_EQ(start({}), 1);
+        EXPECT_TRUE(told.contains(reason)) << told.toStdString();
+        EXPECT_EQ(listing(shared), before);
+    }
+}
+
+TEST_F(ProgramTest, aConfigurationWithoutTheRightToReadItIsTold) {
+    const fs::path shared = fs::path(desk.databases().toStdString()).parent_path();
+    fs::permissions(desk.configurationFile().toStdString(), fs::perms::none);
+    const velcro::test::OrdinaryUser ordinary;
+    ASSERT_TRUE(ordinary.works());
+    QString told;
+    expectError(told);
+    EXPECT_EQ(start({}), 1);
+    EXPECT_TRUE(told.contains("cannot be read: Permission denied.")) << told.toStdString();
+}
+
+TEST_F(ProgramTest, aCommonDatabaseThatCannotBeOpenedIsToldAndNothingIsMade) {
+    const QString good = desk.databases();
+    const QString base = QFileInfo(good).path();
+    const auto folder = [&](const char* name) {
+        QDir().mkpath(base + "/" + name);
+        return base + "/" + name;
+    };
+    const auto withFile = [&](const char* name, const QByteArray& content) {
+        QFile file(folder(name) + "/VELCOMMON.sqlite");
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return base + "/" + name;
+    };
+    struct
+    {
+        const char* what;
+        QString databases;
+        const char* reason;
+    } const cases[] = {
+        {"no folder", base + "/nowhere", "was not found or cannot be read."},
+        {"no database", folder("empty"), "there is no such file in"},
+        {"a file for a folder", desk.configurationFile(), "was not found or cannot be read."},
+        {"no database file", withFile("garbled", QByteArray(5000, 'x')),
+         "is not a valid database file header."},
+    };
+    for (const auto& [what, databases, reason] : cases) {
+        SCOPED_TRACE(what);
+        configure(configuration(databases));
+        const QStringList before = listing(databases);
+        QString told;
+        expectBox(gEXETitle, told);
+        EXPECT_EQ(start({}), 1);
+        EXPECT_TRUE(told.startsWith("DataUCMN.CommonConnect - Failed to connect to database "
+                                    "[VELCOMMON]. Reason: "))
+            << told.toStdString();
+        EXPECT_TRUE(told.contains(reason)) << told.toStdString();
+        EXPECT_EQ(listing(databases), before);
+    }
+}
+
+TEST_F(ProgramTest, databasesThatMayOnlyBeReadAreToldAndStayAsTheyAre) {
+    const fs::path databases = desk.databases().toStdString();
+    recID("Brindavel Central Workshop");
+    freeDataModules(); // the last one out puts the log of the database away
+    for (const auto& entry : fs::directory_iterator(databases)) {
+        fs::permissions(entry.path(), fs::perms(0444));
+    }
+    fs::permissions(databases, fs::perms(0555));
+    const QStringList before = listing(desk.databases());
+    {
+        const velcro::test::OrdinaryUser ordinary;
+        ASSERT_TRUE(ordinary.works());
+        QString told;
+        expectBox(gEXETitle, told);
+        EXPECT_EQ(start({}), 1);
+        EXPECT_TRUE(told.startsWith("DataUCMN.CommonConnect - Failed to connect to database "
+                                    "[VELCOMMON]. Reason: "))
+            << told.toStdString();
+    }
+    EXPECT_EQ(listing(desk.databases()), before);
+    fs::permissions(databases, fs::perms(0755));
+}
+
+TEST_F(ProgramTest, endingTheProgramFromTheFirstErrorIsAFailedStart) {
+    configure("garbled");
+    user.expectForm("System Error", [this] { user.click("btnAppTerminate"); });
+    EXPECT_EQ(start({}), 1);
+}
+
+// Nobody can answer the program on this platform: it must say why it cannot start, and end.
+TEST_F(ProgramTest, theProcessEndsWithItsStatusWhereNobodyCanAnswer) {
+    const QString base = QFileInfo(desk.databases()).path();
+    const QString shared = base + "/config/velmara/Common Files/Microsoft Shared/MSHelp16";
+    const auto run = [&](const QStringList& arguments, QString& said) {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", base + "/config");
+        environment.insert("XDG_DATA_HOME", base + "/data");
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        process.setProcessEnvironment(environment);
+        process.start(VELCRO_PROGRAM, arguments);
+        if (!process.waitForFinished(60'000)) {
+            process.kill();
+            process.waitForFinished();
+            said = "it did not end";
+            return -1;
+        }
+        said = QString::fromUtf8(process.readAllStandardError());
+        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
+    };
+    if (QFileInfo::exists("/opt/velmara")) {
+        GTEST_SKIP() << "this machine has a configuration of its own";
+    }
+    QString said;
+    EXPECT_EQ(run({}, said), 1);
+    EXPECT_TRUE(said.contains("000-001 MAIN000.FormShow: The machine configuration file was not "
+                              "found"))
+        << said.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(base + "/config"));
+
+    QDir().mkpath(shared);
+    QFile file(shared + "/MSHelp16.cnf");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(configuration(desk.databases()));
+    file.close();
+    EXPECT_EQ(run({"U", "P", "seven", "01", "100", "x"}, said), 1);
+    EXPECT_TRUE(said.contains("'seven' is not a valid integer value")) << said.toStdString();
+    EXPECT_EQ(run({"U", "P", "7", "01", "100"}, said), 1);
+    EXPECT_TRUE(said.contains("Log-In : ")) << said.toStdString();
+}
