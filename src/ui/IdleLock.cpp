@@ -24,6 +24,8 @@ qint64 sinceStart() {
 bool isUse(QEvent::Type type) {
     switch (type) {
     case QEvent::KeyPress:
+    case QEvent::ShortcutOverride: // all that is seen of a key that is a shortcut
+    case QEvent::InputMethod:      // keyboards on screen write without keys
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:
     case QEvent::Wheel:
