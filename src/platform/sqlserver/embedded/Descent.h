@@ -227,6 +227,7 @@ private:
     StatementNode set();
     SetOption setOption();
     std::string optionWord();
+    std::string isolationLevel();
     std::string optionValue();
     std::string onOff();
     Throw throwStatement();

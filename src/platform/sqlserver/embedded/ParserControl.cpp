@@ -238,7 +238,7 @@ StatementNode Descent::set() {
 }
 
 // option := name {',' name} (ON | OFF) | IDENTITY_INSERT object (ON | OFF)
-//         | TRANSACTION ISOLATION LEVEL word [word] | name value | STATISTICS name (ON | OFF)
+//         | TRANSACTION ISOLATION LEVEL level | name value | STATISTICS name (ON | OFF)
 SetOption Descent::setOption() {
     static constexpr std::array<std::string_view, 7> valued = {
         "DATEFORMAT",   "DATEFIRST", "DEADLOCK_PRIORITY", "LANGUAGE",
@@ -248,10 +248,7 @@ SetOption Descent::setOption() {
         in_.expectWord("ISOLATION");
         in_.expectWord("LEVEL");
         option.names.push_back("TRANSACTION ISOLATION LEVEL");
-        option.value = optionWord();
-        if (option.value == "READ" || option.value == "REPEATABLE") {
-            option.value += ' ' + optionWord();
-        }
+        option.value = isolationLevel();
         return option;
     }
     if (in_.accept(Keyword::IdentityInsert)) {
@@ -274,6 +271,20 @@ SetOption Descent::setOption() {
     }
     option.value = onOff();
     return option;
+}
+
+// level := READ (COMMITTED | UNCOMMITTED) | REPEATABLE READ | SNAPSHOT | SERIALIZABLE
+std::string Descent::isolationLevel() {
+    static constexpr std::array<std::string_view, 5> levels = {
+        "READ COMMITTED", "READ UNCOMMITTED", "REPEATABLE READ", "SNAPSHOT", "SERIALIZABLE"};
+    std::string level = optionWord();
+    if (level == "READ" || level == "REPEATABLE") {
+        level += ' ' + optionWord();
+    }
+    if (std::find(levels.begin(), levels.end(), level) == levels.end()) {
+        in_.refuseHere();
+    }
+    return level;
 }
 
 std::string Descent::optionWord() {

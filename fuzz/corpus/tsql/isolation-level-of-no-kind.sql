@@ -1,0 +1,1 @@
+SET IDENTITY_INSERT dbo.t ON; SET TRANSACTION ISOLATION LEVEL READ»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»kkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkk»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»»MITTED; SET DATEFORMAT ymd; SET LOCK_TIMEOUT -1
