@@ -62,6 +62,16 @@ protected:
             user.press(Qt::Key_Escape);
         });
     }
+    /// The start ends with the common database's refusal, whose reason it gives.
+    QString refusedCommonDatabase() {
+        QString told;
+        expectBox(gEXETitle, told);
+        EXPECT_EQ(start({}), 1);
+        const QString words = "DataUCMN.CommonConnect - Failed to connect to database [VELCOMMON]. "
+                              "Reason: ";
+        EXPECT_TRUE(told.startsWith(words)) << told.toStdString();
+        return told.mid(words.size());
+    }
     void expectLogIn() {
         user.expectForm("Log-In : " + gEXETitle, [this] { user.click("btnCancel"); });
     }
@@ -93,7 +103,44 @@ protected:
         return entries;
     }
 
+    struct Ended
+    {
+        int status; // -1: not by itself
+        QString said;
+    };
+    /// The program as a process with settings and data below base; one that is installed there is
+    /// started by an ordinary user.
+    Ended run(const QString& program, const QStringList& arguments) {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", base + "/config");
+        environment.insert("XDG_DATA_HOME", base + "/data");
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        process.setProcessEnvironment(environment);
+        if (geteuid() == 0 && program.startsWith(base)) {
+            process.setChildProcessModifier([] {
+                if (setuid(velcro::test::OrdinaryUser::nobody) != 0) {
+                    _exit(99);
+                }
+            });
+        }
+        process.start(program, arguments);
+        if (!process.waitForFinished(60'000)) {
+            process.kill();
+            process.waitForFinished();
+            return {-1, "it did not end"};
+        }
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+    void configureProcess() {
+        const QString shared = base + "/config/velmara/Common Files/Microsoft Shared/MSHelp16";
+        QDir().mkpath(shared);
+        QFile::copy(desk.configurationFile(), shared + "/MSHelp16.cnf");
+    }
+
     Desk desk{Desk::Start::Configured};
+    const QString base = QFileInfo(desk.databases()).path();
     ScriptedUser user;
     bool menuWasLive = false;
 };
@@ -184,7 +231,6 @@ TEST_F(ProgramTest, aConfigurationThatCannotBeReadIsToldAndLeftAlone) {
 }
 
 TEST_F(ProgramTest, aConfigurationWithoutTheRightToReadItIsTold) {
-    const fs::path shared = fs::path(desk.databases().toStdString()).parent_path();
     fs::permissions(desk.configurationFile().toStdString(), fs::perms::none);
     const velcro::test::OrdinaryUser ordinary;
     ASSERT_TRUE(ordinary.works());
@@ -195,8 +241,6 @@ TEST_F(ProgramTest, aConfigurationWithoutTheRightToReadItIsTold) {
 }
 
 TEST_F(ProgramTest, aCommonDatabaseThatCannotBeOpenedIsToldAndNothingIsMade) {
-    const QString good = desk.databases();
-    const QString base = QFileInfo(good).path();
     const auto folder = [&](const char* name) {
         QDir().mkpath(base + "/" + name);
         return base + "/" + name;
@@ -223,12 +267,7 @@ TEST_F(ProgramTest, aCommonDatabaseThatCannotBeOpenedIsToldAndNothingIsMade) {
         SCOPED_TRACE(what);
         configure(configuration(databases));
         const QStringList before = listing(databases);
-        QString told;
-        expectBox(gEXETitle, told);
-        EXPECT_EQ(start({}), 1);
-        EXPECT_TRUE(told.startsWith("DataUCMN.CommonConnect - Failed to connect to database "
-                                    "[VELCOMMON]. Reason: "))
-            << told.toStdString();
+        const QString told = refusedCommonDatabase();
         EXPECT_TRUE(told.contains(reason)) << told.toStdString();
         EXPECT_EQ(listing(databases), before);
     }
@@ -246,12 +285,8 @@ TEST_F(ProgramTest, databasesThatMayOnlyBeReadAreToldAndStayAsTheyAre) {
     {
         const velcro::test::OrdinaryUser ordinary;
         ASSERT_TRUE(ordinary.works());
-        QString told;
-        expectBox(gEXETitle, told);
-        EXPECT_EQ(start({}), 1);
-        EXPECT_TRUE(told.startsWith("DataUCMN.CommonConnect - Failed to connect to database "
-                                    "[VELCOMMON]. Reason: "))
-            << told.toStdString();
+        const QString told = refusedCommonDatabase();
+        EXPECT_TRUE(told.contains("VELCOMMON.sqlite")) << told.toStdString();
     }
     EXPECT_EQ(listing(desk.databases()), before);
     fs::permissions(databases, fs::perms(0755));
@@ -265,42 +300,38 @@ TEST_F(ProgramTest, endingTheProgramFromTheFirstErrorIsAFailedStart) {
 
 // Nobody can answer the program on this platform: it must say why it cannot start, and end.
 TEST_F(ProgramTest, theProcessEndsWithItsStatusWhereNobodyCanAnswer) {
-    const QString base = QFileInfo(desk.databases()).path();
-    const QString shared = base + "/config/velmara/Common Files/Microsoft Shared/MSHelp16";
-    const auto run = [&](const QStringList& arguments, QString& said) {
-        QProcess process;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CONFIG_HOME", base + "/config");
-        environment.insert("XDG_DATA_HOME", base + "/data");
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        process.setProcessEnvironment(environment);
-        process.start(VELCRO_PROGRAM, arguments);
-        if (!process.waitForFinished(60'000)) {
-            process.kill();
-            process.waitForFinished();
-            said = "it did not end";
-            return -1;
-        }
-        said = QString::fromUtf8(process.readAllStandardError());
-        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    };
     if (QFileInfo::exists("/opt/velmara")) {
         GTEST_SKIP() << "this machine has a configuration of its own";
     }
-    QString said;
-    EXPECT_EQ(run({}, said), 1);
-    EXPECT_TRUE(said.contains("000-001 MAIN000.FormShow: The machine configuration file was not "
-                              "found"))
-        << said.toStdString();
+    Ended end = run(VELCRO_PROGRAM, {});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_TRUE(end.said.contains("000-001 MAIN000.FormShow: The machine configuration file was "
+                                  "not found"))
+        << end.said.toStdString();
     EXPECT_FALSE(QFileInfo::exists(base + "/config"));
 
-    QDir().mkpath(shared);
-    QFile file(shared + "/MSHelp16.cnf");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(configuration(desk.databases()));
-    file.close();
-    EXPECT_EQ(run({"U", "P", "seven", "01", "100", "x"}, said), 1);
-    EXPECT_TRUE(said.contains("'seven' is not a valid integer value")) << said.toStdString();
-    EXPECT_EQ(run({"U", "P", "7", "01", "100"}, said), 1);
-    EXPECT_TRUE(said.contains("Log-In : ")) << said.toStdString();
+    configureProcess();
+    end = run(VELCRO_PROGRAM, {"U", "P", "seven", "01", "100", "x"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_TRUE(end.said.contains("'seven' is not a valid integer value"))
+        << end.said.toStdString();
+    end = run(VELCRO_PROGRAM, {"U", "P", "7", "01", "100"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_TRUE(end.said.contains("Log-In : ")) << end.said.toStdString();
+}
+
+TEST_F(ProgramTest, anInstalledProgramWorksInTheUsersData) {
+    const fs::path installed = (base + "/program").toStdString();
+    fs::create_directory(installed);
+    fs::copy_file(VELCRO_PROGRAM, installed / "velCRO");
+    fs::permissions(installed, fs::perms(0555));
+    fs::create_directory((base + "/data").toStdString());
+    fs::permissions((base + "/data").toStdString(), fs::perms(0777));
+    const Ended end = run(QString::fromStdString((installed / "velCRO").string()), {});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_TRUE(end.said.contains("000-001 ")) << end.said.toStdString();
+    EXPECT_EQ(QDir(base + "/data/velCRO").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name),
+              (QStringList{"LOGS", "PDF", "SQL", "Session", "Temp", "Upgrades"}));
+    EXPECT_EQ(std::distance(fs::directory_iterator(installed), {}), 1);
+    fs::permissions(installed, fs::perms(0755));
 }

@@ -5,8 +5,6 @@
 #include "data/StatementText.h"
 #include "support/FakeServer.h"
 
-#include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
 using velcro::sql::SqlError;
@@ -179,17 +177,6 @@ TEST_F(ConnectionTest, directWorkOnTheSuiteConnectionIsKeptAtTheEnd) {
     freeDataModules();
     EXPECT_EQ(server.log.back(), "disconnect");
     EXPECT_EQ(server.log[server.log.size() - 2], "commit");
-}
-
-TEST_F(ConnectionTest, onTheStandInDirectWorkIsKeptOnceTheUserHasControl) {
-    gData->ConnectDB_VEL({}, "embedded:/nowhere", "SUITE", {}, {}, {});
-    Statement layout(gData->Velmara);
-    layout.SQL.Add("UPDATE Grid");
-    layout.ExecSQL();
-    layout.ExecSQL();
-    EXPECT_EQ(server.count("commit"), 0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(server.count("commit"), 1) << "the write lock must not wait for the user";
 }
 
 TEST_F(ConnectionTest, closingATillThatIsNotOpenDoesNothing) {

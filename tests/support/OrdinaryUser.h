@@ -22,8 +22,9 @@ public:
 
     bool works() const { return works_; }
 
-private:
     static constexpr uid_t nobody = 65534;
+
+private:
     uid_t before_;
     bool works_;
 };
