@@ -1,7 +1,6 @@
 #include "ui/Modal.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QTimer>
 
 #include <utility>
@@ -26,11 +25,19 @@ void watch(QDialog& dialog) {
     });
 }
 
+QWidget* mainWindow() {
+    for (auto* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
 /// Not every system gives the keyboard back to the window underneath.
-void activateBelow(QWidget* before) {
+void activateBelow() {
     auto* modal = QApplication::activeModalWidget();
-    auto* below = modal != nullptr ? modal : before;
-    if (below != nullptr && below->isVisible()) {
+    if (auto* below = modal != nullptr ? modal : mainWindow()) {
         below->activateWindow();
     }
 }
@@ -38,12 +45,11 @@ void activateBelow(QWidget* before) {
 } // namespace
 
 int runModal(QDialog& dialog) {
-    const QPointer<QWidget> before = QApplication::activeWindow();
     if (modalWatcher) {
         watch(dialog);
     }
     const int result = dialog.exec();
-    activateBelow(before);
+    activateBelow();
     return result;
 }
 
