@@ -1,6 +1,7 @@
 #include "application/Unattended.h"
 
 #include "data/Prompts.h"
+#include "data/Session.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 
@@ -16,7 +17,8 @@ void turnDown(QDialog& form) {
     for (const auto* memo : form.findChildren<QPlainTextEdit*>()) {
         text += ' ' + memo->toPlainText().simplified();
     }
-    std::fprintf(stderr, "%s\n", qPrintable(text));
+    text += ' ' + gErrorMsg.simplified(); // why it came up, where a log-in was refused before
+    std::fprintf(stderr, "%s\n", qPrintable(text.trimmed()));
     form.done(QDialog::Rejected); // also a form that only its own buttons end
 }
 

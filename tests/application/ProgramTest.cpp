@@ -318,6 +318,9 @@ TEST_F(ProgramTest, theProcessEndsWithItsStatusWhereNobodyCanAnswer) {
     end = run(VELCRO_PROGRAM, {"U", "P", "7", "01", "100"});
     EXPECT_EQ(end.status, 1);
     EXPECT_TRUE(end.said.contains("Log-In : ")) << end.said.toStdString();
+    end = run(VELCRO_PROGRAM, {"U", "P", "4711", "01", "100", "x"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_TRUE(end.said.contains("Database Settings NOT FOUND")) << end.said.toStdString();
 }
 
 TEST_F(ProgramTest, anInstalledProgramWorksInTheUsersData) {
