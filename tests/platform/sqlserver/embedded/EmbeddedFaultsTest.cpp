@@ -64,10 +64,10 @@ std::string halfOrders(const SharedFolder& database) {
                            " (SELECT 1 FROM Orders O WHERE O.CRONo = I.CRONo)");
 }
 
-/// More on request: VELCRO_KILLS=5000.
-int wantedKills() {
-    const char* wanted = std::getenv("VELCRO_KILLS");
-    return wanted != nullptr ? std::atoi(wanted) : 150;
+/// More on request: VELCRO_KILLS=5000, VELCRO_DRAWS=10000.
+int wanted(const char* variable, int usual) {
+    const char* value = std::getenv(variable);
+    return value != nullptr ? std::atoi(value) : usual;
 }
 
 int drawNumbers(const std::string& folder, int report, int count) {
@@ -91,7 +91,7 @@ TEST(EmbeddedFaultsTest, aKilledProcessLeavesWholeBatchesAndWhatItConfirmed) {
     std::mt19937 random(7);
     std::uniform_int_distribution<int> microseconds(0, 25'000);
     int lastConfirmed = 0;
-    for (int kill = 0; kill < wantedKills(); ++kill) {
+    for (int kill = 0; kill < wanted("VELCRO_KILLS", 150); ++kill) {
         const int first = (kill + 1) * 10'000;
         ChildProcess child([&](int report) {
             const auto connection = EmbeddedDatabase::open(folder);
@@ -126,7 +126,7 @@ TEST(EmbeddedFaultsTest, processesDrawDifferentNumbersWithoutAGap) {
     const SharedFolder database(tables);
     const std::string folder = database.path();
     constexpr int processes = 8;
-    constexpr int each = 60;
+    const int each = wanted("VELCRO_DRAWS", 60);
     std::vector<std::unique_ptr<ChildProcess>> children;
     for (int i = 0; i < processes; ++i) {
         children.push_back(std::make_unique<ChildProcess>(

@@ -144,3 +144,30 @@ TEST_F(ServerMessagesTest, namesAndShapes) {
         EXPECT_EQ(sqlState_, row.sqlState) << row.batch;
     }
 }
+
+TEST_F(ServerMessagesTest, textThatIsNoStatementAndValuesOfTheWrongKind) {
+    ASSERT_EQ(database_.answer("CREATE PROCEDURE Asks @a int AS SELECT @a"), "(-1)");
+    const std::pair<const char*, const char*> rows[] = {
+        {"SELECT Code FROM Item WHERE )", "102 15 Incorrect syntax near ')'."},
+        {"SELECT 'open", "105 15 Unclosed quotation mark after the character string 'open'."},
+        {"SELECT FROM Item", "156 15 Incorrect syntax near the keyword 'FROM'."},
+        {"EXEC Asks",
+         "201 16 Procedure or function 'Asks' expects parameter '@a', which was not supplied."},
+        {"INSERT INTO Item VALUES ('a')",
+         "213 16 Column name or number of supplied values does not match table definition."},
+        {"UPDATE Item SET Day = 'never'",
+         "241 16 Conversion failed when converting date and/or time from character string."},
+        {"UPDATE Item SET Qty = '99999999999'",
+         "248 16 The conversion of the varchar value '99999999999' overflowed an int column."},
+        {"INSERT INTO Item (RecID, Qty) VALUES (9, 1)",
+         "544 16 Cannot insert explicit value for identity column in table 'Item' when "
+         "IDENTITY_INSERT is set to OFF."},
+        {"EXEC Nowhere", "2812 16 Could not find stored procedure 'Nowhere'."},
+        {"ALTER TABLE Nowhere ADD a int",
+         "4902 16 Cannot find the object \"Nowhere\" because it does not exist or you do not have "
+         "permissions."},
+        {"SELECT CAST('dear' AS float)", "8114 16 Error converting data type varchar to float."}};
+    for (const auto& [batch, words] : rows) {
+        EXPECT_EQ(refusal(batch), words) << batch;
+    }
+}

@@ -1,0 +1,101 @@
+// Runs the program's statements, as the .sql files of this folder list them, against the tables
+// that the deployment scripts make. In a file each statement is followed by "--> " and what it must
+// answer; a line "-- Area" groups them.
+#include "support/EmbeddedDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <string>
+
+namespace fs = std::filesystem;
+using velcro::sql::Blob;
+using velcro::sql::Parameter;
+using velcro::test::EmbeddedDatabase;
+
+namespace {
+
+struct Row
+{
+    std::string area;
+    std::string statement;
+    std::string answer;
+};
+
+std::vector<Row> readTable(const std::string& name) {
+    std::ifstream file(fs::path(STATEMENTS_FOLDER) / name);
+    std::vector<Row> rows;
+    std::string area;
+    std::string statement;
+    for (std::string line; std::getline(file, line);) {
+        if (line.rfind("--> ", 0) == 0) {
+            rows.push_back({area, std::move(statement), line.substr(4)});
+            statement.clear();
+        } else if (line.rfind("-- ", 0) == 0) {
+            area = line.substr(3);
+        } else if (!line.empty() || !statement.empty()) {
+            statement += line + "\r\n";
+        }
+    }
+    EXPECT_EQ(statement, "") << "a statement without its answer";
+    return rows;
+}
+
+void runScript(velcro::sql::SqlConnection& connection, const fs::path& path) {
+    std::ifstream file(path);
+    std::string batch;
+    for (std::string line; std::getline(file, line);) {
+        if (line == "GO") {
+            connection.execute(batch);
+            batch.clear();
+        } else {
+            batch += line + "\n";
+        }
+    }
+    connection.execute(batch);
+}
+
+class StatementTableTest : public testing::TestWithParam<const char*>
+{
+protected:
+    void SetUp() override {
+        std::set<fs::path> scripts;
+        for (const auto& entry : fs::directory_iterator(DEPLOY_FOLDER)) {
+            const std::string name = entry.path().filename().string();
+            if (entry.path().extension() == ".sql" && name.rfind("server-", 0) != 0) {
+                scripts.insert(entry.path());
+            }
+        }
+        ASSERT_GE(scripts.size(), 6U);
+        for (const auto& script : scripts) {
+            runScript(database_.connection(), script);
+        }
+    }
+
+    EmbeddedDatabase database_;
+};
+
+} // namespace
+
+TEST_P(StatementTableTest, everyStatementHasItsEffect) {
+    const std::vector<Parameter> parameters{
+        {"CO", std::string("01")},        {"Branch", std::string("100")},
+        {"UserCode", std::string("ANN")}, {"UserGroup", std::string("COUNTER")},
+        {"ScreenID", std::string("G1")},  {"GridSettings", std::string("[Grid]\r\nw=1")},
+        {"Suite", std::string("VEL")},    {"ModCode", std::string("CRO")},
+        {"TxTp", std::string("CROMST")},  {"CRONo", std::string("A1")},
+        {"ItemNo", std::int64_t{1}},      {"ProcessID", std::int64_t{0}},
+        {"ImageID", std::int64_t{3}},     {"ImageData", Blob{std::string("\x89PNG")}}};
+    const auto rows = readTable(GetParam());
+    ASSERT_FALSE(rows.empty());
+    for (const auto& row : rows) {
+        EXPECT_EQ(database_.answer(row.statement, parameters), row.answer) << row.area << ":\n"
+                                                                           << row.statement;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Areas, StatementTableTest,
+                         testing::Values("shell.sql", "repairs.sql", "lookups.sql", "signin.sql",
+                                         "schema.sql"));
