@@ -29,7 +29,9 @@ bool slif_Show_LogInForm() {
             return false;
         }
     }
-    sfvel_Check_EndOfDay_Run();
+    if (!QStringList{"SEC", "RTN", "UTL"}.contains(gModCode)) {
+        sfvel_Check_EndOfDay_Run();
+    }
     return true;
 }
 
