@@ -6,8 +6,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScroller>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <utility>
 
 namespace velcro::ui {
 
@@ -16,12 +18,35 @@ constexpr int sampleRows = 200; // enough to know how wide a column is
 constexpr int cellPadding = 24;
 constexpr int narrowest = 56;
 constexpr int widest = 320;
+constexpr int textMargin = 7; // brings a cell's text below its heading's
+
+// Cells with room beside their text. A style sheet's padding serves selected cells alone.
+class CellPainter : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        auto* style = cell.widget->style();
+        const QString text = std::exchange(cell.text, QString());
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        cell.text = text;
+        cell.rect.adjust(textMargin, 0, -textMargin, 0);
+        cell.state &= ~QStyle::State_HasFocus;
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    }
+};
+
 } // namespace
 
 RowGrid::RowGrid(QWidget* parent)
     : QTableView(parent)
     , model_(this) {
     setModel(&model_);
+    setItemDelegate(new CellPainter(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -59,7 +84,7 @@ void RowGrid::showOnlyVisibleColumns() {
 
 void RowGrid::setRows(const sql::RowSet& rows) {
     model_.setRows(rows);
-    if (!columnsFitted_ && isVisible() && rows.rowCount() > 0) {
+    if (!columnsFitted_ && isVisible()) {
         fitColumns();
     }
     first();
@@ -140,7 +165,7 @@ void RowGrid::keyPressEvent(QKeyEvent* event) {
 
 void RowGrid::showEvent(QShowEvent* event) {
     QTableView::showEvent(event);
-    if (!columnsFitted_ && model_.rowCount() > 0) {
+    if (!columnsFitted_) {
         fitColumns();
     }
 }
@@ -171,7 +196,7 @@ void RowGrid::fitColumns() {
     if (widestColumn >= 0 && used < viewport()->width()) {
         header->resizeSection(widestColumn, columnWidth(widestColumn) + viewport()->width() - used);
     }
-    columnsFitted_ = true;
+    columnsFitted_ = model_.rowCount() > 0; // until then the headings alone decide
 }
 
 } // namespace velcro::ui

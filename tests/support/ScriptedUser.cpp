@@ -92,13 +92,14 @@ void ScriptedUser::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 }
 
 void ScriptedUser::type(const QString& text) {
-    for (const QChar letter : text) {
+    for (const uint codePoint : text.toUcs4()) {
+        const QString letter = QString::fromUcs4(reinterpret_cast<const char32_t*>(&codePoint), 1);
         auto* target = form().focusWidget();
         if (target == nullptr) {
             throw std::runtime_error("typed where nothing has the focus");
         }
         // Sent as an input method does it, so that any letter can be typed.
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, letter);
         QApplication::sendEvent(target, &press);
     }
 }
