@@ -13,6 +13,9 @@ SelectionScreen::SelectionScreen(ListFacts facts, Connection& connection, QWidge
     setMainButton(btnSelect);
     addSearch(QStringLiteral("CTRL-S"));
     addRestore(QStringLiteral("CTRL-R"), Qt::Key_F12);
+    // What the caps promise, beside the function keys.
+    bindKey(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { btnSearchClick(); });
+    bindKey(QKeySequence(Qt::CTRL | Qt::Key_R), this, [this] { BuildGrid(); });
     bindKey(Qt::Key_F4, this, [this] { btnSearchClick(); });
     // Both page keys step one record back, wherever the focus is.
     bindKey(Qt::Key_PageUp, this, [this] { grid().previous(); });
@@ -21,6 +24,14 @@ SelectionScreen::SelectionScreen(ListFacts facts, Connection& connection, QWidge
 
 QString SelectionScreen::field(const char* name) const {
     return query().FieldByName(QString::fromLatin1(name)).AsString();
+}
+
+void SelectionScreen::hideKeyCaps() {
+    for (auto* button : findChildren<KeyButton*>()) {
+        if (!button->keyCap().isEmpty()) {
+            button->setKeyCap({});
+        }
+    }
 }
 
 void SelectionScreen::btnSelectClick() {

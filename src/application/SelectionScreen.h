@@ -20,6 +20,8 @@ protected:
     void rowChosen() override;
     bool raisesReadFailure() const override { return false; }
     QString field(const char* name) const;
+    /// Takes the pictures of the keys off all buttons; the keys themselves go on working.
+    void hideKeyCaps();
 
     velcro::ui::KeyButton* btnSelect = nullptr;
 };

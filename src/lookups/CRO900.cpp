@@ -1,5 +1,6 @@
 #include "lookups/CRO900.h"
 
+#include "application/Settings.h"
 #include "data/DataUVEL.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
@@ -41,6 +42,10 @@ ListFacts customerFacts() {
 TfrmCRO900::TfrmCRO900(QWidget* parent)
     : SelectionScreen(customerFacts(), gData->Velmara, parent) {
     edSearchText->installEventFilter(this);
+    // Seats that are worked by touch alone want no keyboard hints.
+    if (sfvel_GetParam(QStringLiteral("TIL"), 62) == QLatin1String("Y")) {
+        hideKeyCaps();
+    }
 }
 
 void TfrmCRO900::FormShow() {
@@ -93,9 +98,16 @@ bool TfrmCRO900::eventFilter(QObject* watched, QEvent* event) {
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
             reason == Qt::MouseFocusReason) {
             QMetaObject::invokeMethod(
-                this, [this] { velcro::ui::guarded([this] { btnSearchClick(); }); },
+                this, [this] { velcro::ui::guarded([this] { searchWasLeft(); }); },
                 Qt::QueuedConnection);
         }
     }
     return SelectionScreen::eventFilter(watched, event);
+}
+
+// A click on the search button has searched by itself and hidden the panel.
+void TfrmCRO900::searchWasLeft() {
+    if (pnlSearch->isVisible()) {
+        btnSearchClick();
+    }
 }

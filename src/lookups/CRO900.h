@@ -21,4 +21,7 @@ protected:
     void FormShow() override;
     void beforeRead(const QString& xSQL) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void searchWasLeft();
 };

@@ -41,7 +41,9 @@ ListFacts serialFacts() {
 } // namespace
 
 TfrmCRO910::TfrmCRO910(QWidget* parent)
-    : SelectionScreen(serialFacts(), gData->Velmara, parent) {}
+    : SelectionScreen(serialFacts(), gData->Velmara, parent) {
+    hideKeyCaps();
+}
 
 QStringList TfrmCRO910::statementLines(const QString& xSQL) const {
     return {
