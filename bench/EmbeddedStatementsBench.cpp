@@ -260,9 +260,13 @@ void registerGridModelEmbedded(benchmark::State& state) {
 
 /// Qt's own model over the same file, fetched to its end as the register is.
 void registerQtModel(benchmark::State& state) {
-    auto qt = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("bench"));
-    qt.setDatabaseName(QString::fromStdString((database().folder / "Bench.sqlite").string()));
-    qt.open();
+    makeRawTable();
+    auto qt = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+    qt.setDatabaseName(QString::fromStdString((database().folder / "raw.db").string()));
+    if (!qt.open()) {
+        state.SkipWithError("Qt's driver does not open the file");
+        return;
+    }
     for (auto _ : state) {
         const auto before = heapBytes();
         QSqlQueryModel model;
@@ -310,7 +314,7 @@ BENCHMARK(byKeyEmbedded);
 BENCHMARK(registerRaw)->Unit(benchmark::kMillisecond);
 BENCHMARK(registerEmbedded)->Unit(benchmark::kMillisecond);
 BENCHMARK(registerGridModelEmbedded)->Unit(benchmark::kMillisecond);
-BENCHMARK(registerQtModel)->Unit(benchmark::kMillisecond);
+BENCHMARK(registerQtModel)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(searchRaw)->Unit(benchmark::kMillisecond);
 BENCHMARK(searchEmbedded)->Unit(benchmark::kMillisecond);
 
