@@ -8,6 +8,7 @@
 #include "support/ScriptedUser.h"
 
 #include <QComboBox>
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -144,6 +145,28 @@ TEST_F(LogInScreensTest, anExpiredPasswordMustBeChangedAndARefusalLeavesTheScree
         user.click("btnOK");
     });
     EXPECT_EQ(form.xReturn, "OK") << "still good on the expiry date itself";
+}
+
+TEST_F(LogInScreensTest, aPasswordThatCouldNotBeWrittenIsNotLeftBehind) {
+    TfrmCMN999 form;
+    user.expectForm("Change System Password", [&] {
+        Desk::onSuite("ALTER TABLE SYSUser DROP COLUMN [PswdDate]");
+        user.typeInto("edPswd1", "S'CRET9");
+        user.typeInto("edPswd2", "S'CRET9");
+        user.press(Qt::Key_Return);
+        EXPECT_TRUE(user.form().isVisible()) << "a failed change leaves the form open";
+        user.click("btnCancel");
+    });
+    user.workIn(form, [&] {
+        refusal(form, "NEWUSER", "XQZ741");
+        user.click("btnCancel");
+    });
+    QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(text.contains("UPDATE SYSUSER SET")) << text.toStdString();
+    EXPECT_FALSE(text.contains("CRET9")) << text.toStdString();
+    EXPECT_FALSE(desk.shown.join(' ').contains("CRET9"));
 }
 
 TEST_F(LogInScreensTest, theDatabaseIsPickedByTypingAndRemembered) {
