@@ -100,30 +100,10 @@ std::int64_t Session::versionNow() const {
     return catalogue_.version() * 1'000'003 + temporary_.version() + settingsVersion_;
 }
 
-/// Every piece is parsed before the first one runs: a batch with a mistake does nothing.
 void Session::runPieces(std::string_view batch, std::span<const Parameter> parameters,
                         const SqlConnection::OnResult& onResult) {
-    struct Piece
-    {
-        Shape shape;
-        std::shared_ptr<Program> program;
-    };
     line_ = 1;
-    std::vector<Piece> pieces;
-    std::size_t read = 0;
-    ShapeReader reader(batch);
-    while (true) {
-        Piece& piece = pieces.emplace_back();
-        // The key is hardly longer than the text: one allocation instead of ten.
-        piece.shape.key.reserve(batch.size() - read);
-        if (!reader.next(piece.shape)) {
-            pieces.pop_back();
-            break;
-        }
-        read = static_cast<std::size_t>(piece.shape.text.data() - batch.data()) +
-               piece.shape.text.size();
-        piece.program = programOf(piece.shape, parameters);
-    }
+    const std::vector<Piece> pieces = piecesOf(batch, parameters);
     catalogue_.refresh();
     Frame frame;
     // What a batch of another kind began with must not be left over when a fault ends it.
@@ -132,12 +112,43 @@ void Session::runPieces(std::string_view batch, std::span<const Parameter> param
         TemporaryTables& tables;
         ~DropVariables() { tables.dropVariables(); }
     } const dropVariables{temporary_};
-    for (auto& [shape, program] : pieces) {
-        Place place{*program, shape.text, frame, shape.literals, parameters, onResult};
+    for (const auto& [program, text, literals] : pieces) {
+        Place place{*program, text, frame, literals, parameters, onResult};
         if (runAll(program->batch.statements, place) == Flow::Return) {
             break;
         }
     }
+}
+
+/// Every piece is parsed before the first one runs: a batch with a mistake does nothing.
+std::vector<Session::Piece> Session::piecesOf(std::string_view batch,
+                                              std::span<const Parameter> parameters) {
+    std::vector<Piece> pieces;
+    // A parameter's type belongs to the shape, and does not stand in the text.
+    if (parameters.empty()) {
+        std::vector<LiftedLiteral> literals;
+        if (const auto* known = patterns_.find(batch, literals)) {
+            pieces.push_back(
+                {known->compiled, known->pattern.shapeText(batch), std::move(literals)});
+            return pieces;
+        }
+    }
+    Shape shape;
+    // The key is hardly longer than the text: one allocation instead of ten.
+    shape.key.reserve(batch.size());
+    ShapeReader reader(batch);
+    while (reader.next(shape)) {
+        auto program = programOf(shape, parameters);
+        pieces.push_back({std::move(program), shape.text, shape.literals});
+    }
+    if (pieces.size() == 1 && parameters.empty() && pieces.front().program->batch.reusable) {
+        const auto& program = pieces.front().program;
+        if (auto pattern = TextPattern::of(batch, shape.text, pieces.front().literals,
+                                           program->batch.structuralLiterals)) {
+            patterns_.insert(std::move(*pattern), program);
+        }
+    }
+    return pieces;
 }
 
 std::shared_ptr<Program> Session::programOf(Shape& shape, std::span<const Parameter> parameters) {

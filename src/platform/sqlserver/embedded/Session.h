@@ -15,6 +15,7 @@
 #include "platform/sqlserver/embedded/Parser.h"
 #include "platform/sqlserver/embedded/Shape.h"
 #include "platform/sqlserver/embedded/TemporaryTables.h"
+#include "platform/sqlserver/embedded/TextPattern.h"
 #include "platform/sqlserver/embedded/Transactions.h"
 
 #include <deque>
@@ -44,6 +45,8 @@ struct Program
 class Session
 {
 public:
+    static constexpr std::size_t shapesKept = 400;
+
     /// Throws SqlError of kind NotConnected.
     explicit Session(const ConnectionSettings& settings);
 
@@ -66,11 +69,18 @@ private:
         const SqlConnection::OnResult& onResult;
     };
     enum class Flow : std::uint8_t { Normal, Break, Continue, Return };
+    struct Piece
+    {
+        std::shared_ptr<Program> program;
+        std::string_view text;
+        std::vector<LiftedLiteral> literals;
+    };
     class PlaceNames;
 
     // Session.cpp
     void runPieces(std::string_view batch, std::span<const Parameter> parameters,
                    const SqlConnection::OnResult& onResult);
+    std::vector<Piece> piecesOf(std::string_view batch, std::span<const Parameter> parameters);
     std::shared_ptr<Program> programOf(Shape& shape, std::span<const Parameter> parameters);
     SessionFacts facts();
     template <class Work>
@@ -186,7 +196,8 @@ private:
     Transactions transactions_;
     TemporaryTables temporary_;
     NumberSeries numbers_;
-    ShapeCache<std::shared_ptr<Program>> cache_{400};
+    ShapeCache<std::shared_ptr<Program>> cache_{shapesKept};
+    PatternCache<std::shared_ptr<Program>> patterns_{shapesKept};
     std::map<std::string, std::shared_ptr<Procedure>> procedures_;
     std::function<Value(std::string_view)> sessionValue_;
     std::optional<std::int64_t> statementTime_; // asked for by the running statement
