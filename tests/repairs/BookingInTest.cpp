@@ -7,6 +7,7 @@
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
+#include "ui/Handler.h"
 
 #include <gtest/gtest.h>
 
@@ -295,6 +296,27 @@ TEST_F(BookingInTest, aSearchReachesOtherBranchesButForTheNumber) {
         EXPECT_TRUE(screen.isVisible()) << "Escape hides the panel first";
         user.press(Qt::Key_Escape);
     });
+}
+
+TEST_F(BookingInTest, aQuoteInTheSearchIsAFailedRead) {
+    QStringList displayed;
+    velcro::ui::setErrorDisplay([&displayed](const QString& message) { displayed << message; });
+    TfrmCRO100 screen;
+    screen.resize(1024, 768);
+    user.workIn(screen, [&] {
+        user.click("btnLookup");
+        user.typeInto("edSearchText", "O'Brien");
+        user.click("btnSearch");
+        user.press(Qt::Key_R, Qt::ControlModifier);
+        EXPECT_EQ(user.column("Order #No").size(), 300) << "the screen can be used on";
+        user.press(Qt::Key_Escape);
+    });
+    velcro::ui::setErrorDisplay({});
+    ASSERT_EQ(desk.shown.size(), 1);
+    EXPECT_TRUE(
+        desk.shown[0].startsWith("100-001|SQL Error reading object \"CRORepMst\". Details: \r"))
+        << desk.shown[0].toStdString();
+    EXPECT_EQ(displayed.size(), 1) << "and raised again";
 }
 
 TEST_F(BookingInTest, anEmptyRegisterTakesNoActionAndSaysNothing) {
