@@ -24,7 +24,6 @@
 
 namespace {
 
-const QString defaultPassword = QStringLiteral("XQZ741");
 const QString reservedUser = QStringLiteral("KORVAL");
 
 constexpr int pictureHeight = 150;

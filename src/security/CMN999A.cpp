@@ -9,10 +9,6 @@
 #include <QLineEdit>
 #include <QTimer>
 
-namespace {
-const QString defaultPassword = QStringLiteral("XQZ741");
-}
-
 TfrmCMN999A::TfrmCMN999A(const QString& xUserCode)
     : SignInForm(QStringLiteral("CMN999A"), QStringLiteral("VELMARA : Change System Password"))
     , userCode_(xUserCode) {

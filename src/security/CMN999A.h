@@ -4,6 +4,9 @@
 #include "data/DataUVEL.h"
 #include "security/SignInForm.h"
 
+/// What new users are given, and must change at their first log-in.
+inline const QString defaultPassword = QStringLiteral("XQZ741");
+
 class TfrmCMN999A : public SignInForm
 {
     Q_OBJECT
