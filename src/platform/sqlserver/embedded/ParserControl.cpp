@@ -1,6 +1,7 @@
 // Statements as such: which one begins here, blocks, branches, loops, variables and transactions.
 #include "platform/sqlserver/embedded/Descent.h"
 
+#include <algorithm>
 #include <array>
 
 namespace velcro::sql::tsql {
