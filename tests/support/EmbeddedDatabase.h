@@ -4,9 +4,12 @@
 #include "platform/sqlserver/SqlConnection.h"
 #include "support/TempFolder.h"
 
+#include <algorithm>
 #include <memory>
+#include <numeric>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velcro::test {
 
@@ -34,20 +37,21 @@ public:
     sql::SqlConnection& connection() { return *connection_; }
     const TempFolder& folder() const { return folder_; }
 
-    std::string answer(std::string_view batch,
-                       std::span<const sql::Parameter> parameters = {}) const {
-        return answerOf(*connection_, batch, parameters);
+    std::string answer(std::string_view batch, std::span<const sql::Parameter> parameters = {},
+                       std::string_view columns = {}) const {
+        return answerOf(*connection_, batch, parameters, columns);
     }
 
     /// Rows as "a|b;c|d", statements without rows as "(n)", blanks between; a failure ends it as
-    /// "error n".
+    /// "error n". With columns, "A, B", the rows show those only.
     static std::string answerOf(sql::SqlConnection& connection, std::string_view batch,
-                                std::span<const sql::Parameter> parameters = {}) {
+                                std::span<const sql::Parameter> parameters = {},
+                                std::string_view columns = {}) {
         std::string text;
         try {
-            connection.run(batch, parameters, [&text](sql::StatementResult&& result) {
+            connection.run(batch, parameters, [&](sql::StatementResult&& result) {
                 text += text.empty() ? "" : " ";
-                text += result.rows ? rowsText(*result.rows)
+                text += result.rows ? rowsText(*result.rows, columns)
                                     : "(" + std::to_string(result.affected) + ")";
             });
         } catch (const sql::SqlError& error) {
@@ -58,16 +62,33 @@ public:
     }
 
 private:
-    static std::string rowsText(const sql::RowSet& rows) {
+    static std::string rowsText(const sql::RowSet& rows, std::string_view columns) {
         std::string text;
+        const auto shown = shownColumns(rows, columns);
         for (std::size_t row = 0; row < rows.rowCount(); ++row) {
             text += row == 0 ? "" : ";";
-            for (std::size_t column = 0; column < rows.columnCount(); ++column) {
-                text += column == 0 ? "" : "|";
+            for (const std::size_t& column : shown) {
+                text += &column == &shown.front() ? "" : "|";
                 text += rows.isNull(row, column) ? "NULL" : rows.text(row, column);
             }
         }
         return text;
+    }
+
+    static std::vector<std::size_t> shownColumns(const sql::RowSet& rows,
+                                                 std::string_view columns) {
+        std::vector<std::size_t> shown;
+        if (columns.empty()) {
+            shown.resize(rows.columnCount());
+            std::iota(shown.begin(), shown.end(), 0);
+        }
+        while (!columns.empty()) {
+            const auto name = columns.substr(0, columns.find(", "));
+            // An unknown name must not pass for an empty answer.
+            shown.push_back(rows.columnIndex(name).value());
+            columns.remove_prefix(std::min(columns.size(), name.size() + 2));
+        }
+        return shown;
     }
 
     TempFolder folder_;

@@ -49,7 +49,7 @@ INSERT INTO STKPrice (CO, Branch, StockCode, LinkCode, PriceCode, Excl, Incl) VA
 --> (1)
 INSERT INTO STKBalance (CO, Branch, StockCode, WH, Onhand) VALUES ('01', '100', 'DRILL', '', '4')
 --> (1)
-SELECT P.StockCode, P.LinkCode, P.Excl, P.Incl, P.Onhand FROM (SELECT TOP(1000) T0.*,
+SELECT TOP(1000) T0.*,
  COALESCE(T1.Excl,0.00) AS Excl, 
  COALESCE(T1.Incl,0.00) AS Incl, 
  (SELECT SUM(Onhand) FROM STKBalance WITH (NOLOCK)
@@ -76,9 +76,46 @@ SELECT P.StockCode, P.LinkCode, P.Excl, P.Incl, P.Onhand FROM (SELECT TOP(1000) 
   OR T0.Barcode LIKE '%ri%'
  ) 
  AND T0.Status <> 'X'
- ORDER BY T0.Description1) P
---> DRILL|D1|10|11.5|4;DRILL|D6|0|0|4
-SELECT [RecID], [StockCode], [LinkCode], [Description1], [Units], [Barcode], [SuppCode]
+ ORDER BY T0.Description1
+--> of StockCode, LinkCode, Excl, Incl, Onhand: DRILL|D1|10|11.5|4;DRILL|D6|0|0|4
+SELECT TOP(1000) T0.*,
+ COALESCE(T1.Excl,0.00) AS Excl, 
+ COALESCE(T1.Incl,0.00) AS Incl, 
+ (SELECT SUM(Onhand) FROM STKBalance WITH (NOLOCK)
+ WHERE CO = T0.CO
+   AND Branch = T0.Branch
+   AND StockCode = T0.StockCode) AS [Onhand]
+ FROM STKMaster T0 WITH (NOLOCK)
+ LEFT OUTER JOIN STKPrice T1 WITH (NOLOCK) 
+   ON T1.CO = T0.CO 
+  AND T1.Branch = T0.Branch 
+  AND T1.StockCode = T0.StockCode
+  AND T1.LinkCode = T0.LinkCode
+  AND T1.PriceCode = 'P1'
+ LEFT OUTER JOIN STKBalance T2 WITH (NOLOCK)
+   ON T2.CO = T0.CO
+  AND T2.Branch = T0.Branch
+  AND T2.StockCode = T0.StockCode 
+ WHERE T0.CO = '01'
+   AND T0.Branch = '100'
+ AND T0.StockType = 'S'
+ AND T0.Supplier = 'V1'
+ AND T0.Status <> 'X'
+ AND T0.[StockCode] LIKE '%old%' OR T0.[LinkCode] LIKE '%old%' OR T0.[Description1] LIKE '%old%' OR T0.[Description2] LIKE '%old%' OR T0.[Barcode] LIKE '%old%' OR T0.[SuppCode] LIKE '%old%'
+--> of StockCode, Status, Onhand: OLD|X|NULL
+SELECT T0.*,
+       COALESCE(T1.Excl,0.00) AS Excl,
+       COALESCE(T1.Incl,0.00) AS Incl
+  FROM STKMaster T0
+  LEFT OUTER JOIN STKPrice T1
+    ON T1.CO = T0.CO
+   AND T1.Branch = T0.Branch
+   AND T1.StockCode = T0.StockCode
+   AND T1.LinkCode = T0.LinkCode
+   AND T1.PriceCode = 'P1'
+ WHERE T0.RecID = '1'
+--> of StockCode, LinkCode, Excl, Incl: DRILL|D1|10|11.5
+SELECT [RecID], [StockCode], [LinkCode], [Description1], [Units], [Barcode], [SuppCode], [Variant], [Singles]
   FROM STKMaster
  WHERE [CO] = '01'
    AND [Branch] = '100'
@@ -86,13 +123,66 @@ SELECT [RecID], [StockCode], [LinkCode], [Description1], [Units], [Barcode], [Su
    AND [StockType] <> 'P'
    AND [Status] <> 'X'
  ORDER BY [Units] DESC
---> 2|DRILL|D6|Drill six|6|606|SU;1|DRILL|D1|Drill|1|600|SU
+--> 2|DRILL|D6|Drill six|6|606|SU|NULL|0;1|DRILL|D1|Drill|1|600|SU|NULL|0
+SELECT RecID, StockCode, LinkCode, Description1, Units, Barcode, 
+ SuppCode, Variant, Singles 
+ FROM STKMaster WITH (NOLOCK)  
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND StockCode = 'DRILL'
+ AND StockType <> 'P'
+ AND Status <> 'X'
+ ORDER BY Units DESC 
+--> 2|DRILL|D6|Drill six|6|606|SU|NULL|0;1|DRILL|D1|Drill|1|600|SU|NULL|0
+-- The stock search
 SELECT RecID, StockType, StockCode, LinkCode, Description1
  FROM STKMaster WITH (NOLOCK)
  WHERE CO = '01'
  AND Branch = '100'
  AND Barcode = '600' AND (StockType <> 'K' AND KitFunction <> '3' AND KitFunction <> '4' ) AND Status <> 'X'ORDER BY StockCode, LinkCode 
 --> 1|S|DRILL|D1|Drill
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND StockCode = 'drill'ORDER BY StockCode, LinkCode 
+--> 1|S|DRILL|D1|Drill;2|S|DRILL|D6|Drill six
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND LinkCode = 'D6' AND Status <> 'X'ORDER BY StockCode, LinkCode 
+--> 2|S|DRILL|D6|Drill six
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND Barcode = '600'ORDER BY StockCode, LinkCode 
+--> 1|S|DRILL|D1|Drill;4|S|OLD||Old
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND StockCode = 'KIT' AND (StockType <> 'K' AND KitFunction <> '3' AND KitFunction <> '4' )ORDER BY StockCode, LinkCode 
+--> 
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND SuppCode = 'su' AND Status <> 'X'ORDER BY StockCode, LinkCode 
+--> 1|S|DRILL|D1|Drill;2|S|DRILL|D6|Drill six
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND SuppCode = 'SU' AND Supplier = 'V2' AND Status <> 'X'ORDER BY StockCode, LinkCode 
+--> 
+SELECT RecID, StockType, StockCode, LinkCode, Description1
+ FROM STKMaster WITH (NOLOCK)
+ WHERE CO = '01'
+ AND Branch = '100'
+ AND SuppCode = 'SU' AND Supplier = 'V1' AND (StockType <> 'K' AND KitFunction <> '3' AND KitFunction <> '4' ) AND Status <> 'X'ORDER BY StockCode, LinkCode 
+--> 1|S|DRILL|D1|Drill;2|S|DRILL|D6|Drill six
 INSERT INTO STKAltBarcodes (CO, Branch, Barcode, StockCode, LinkCode) VALUES ('01', '100', '999', 'DRILL', 'D6')
 --> (1)
 SELECT StockCode, LinkCode 
@@ -109,10 +199,34 @@ INSERT INTO STKAltSuppliers (CO, Branch, StockCode, LinkCode, SuppCode, Account)
    AND [Branch] = '100'
    AND [SuppCode] = 'alt' AND [Account] = 'V9'
 --> DRILL|D1
-SELECT Incl FROM STKPrice WITH (NOLOCK) 
+ SELECT [StockCode], [LinkCode] 
+ FROM STKAltSuppliers WITH (NOLOCK) 
+ WHERE [CO] = '01'
+   AND [Branch] = '100'
+   AND [StockCode] = 'drill'
+--> DRILL|D1
+ SELECT [StockCode], [LinkCode] 
+ FROM STKAltSuppliers WITH (NOLOCK) 
+ WHERE [CO] = '01'
+   AND [Branch] = '100'
+   AND [LinkCode] = 'd1'
+--> DRILL|D1
+ SELECT [StockCode], [LinkCode] 
+ FROM STKAltSuppliers WITH (NOLOCK) 
+ WHERE [CO] = '01'
+   AND [Branch] = '100'
+   AND [SuppCode] = 'ALT'
+--> DRILL|D1
+ SELECT [StockCode], [LinkCode] 
+ FROM STKAltSuppliers WITH (NOLOCK) 
+ WHERE [CO] = '01'
+   AND [Branch] = '100'
+   AND [SuppCode] = 'ALT' AND [Account] = 'V8'
+--> 
+SELECT * FROM STKPrice WITH (NOLOCK) 
  WHERE CO = '01'
  AND Branch = '100'
  AND StockCode = 'DRILL'
  AND LinkCode = 'D1'
  AND PriceCode = 'P1'
---> 11.5
+--> of Excl, Incl, FromDate: 10|11.5|NULL

@@ -1,17 +1,31 @@
 -- Till control
+SELECT * FROM SYSTillControl WITH (NOLOCK)  WHERE [PCName] = 'SEAT2'
+--> 
+INSERT INTO SYSTillControl ( [PCName], [MacID], [Key], [DBVersion], [LastMaint], [LastUpgrade]    ) VALUES ( 'SEAT2','','','','2026/03/01','2026/03/01') ;
+--> (1)
+SELECT * FROM SYSTillControl WITH (NOLOCK)  WHERE [PCName] = 'seat2'
+--> of PCName, Key, DBVersion, LastMaint: SEAT2|||2026/03/01
+SELECT * FROM SYSDBConfig WITH (NOLOCK) 
+--> 
+INSERT INTO SYSDBConfig (DBVersion) VALUES ('14.2.0')
+--> (1)
+SELECT * FROM SYSDBConfig WITH (NOLOCK) 
+--> of DBVersion: 14.2.0
 IF EXISTS ( SELECT [RECID] FROM SYSTillControl WHERE [PCName] = 'SEAT1' ) UPDATE SYSTillControl SET [DBVersion] = '14.47.41',[LastUpgrade] = '2026/03/01' WHERE [PCName] = 'SEAT1' ELSE INSERT INTO SYSTillControl ( [PCName], [MacID], [Key], [DBVersion], [LastMaint], [LastUpgrade]    ) VALUES ( 'SEAT1','','','1.0.0','','2026/03/01') ;
 --> (1)
 IF EXISTS ( SELECT [RECID] FROM SYSTillControl WHERE [PCName] = 'SEAT1' ) UPDATE SYSTillControl SET [DBVersion] = '14.47.41',[LastUpgrade] = '2026/03/02' WHERE [PCName] = 'SEAT1' ELSE INSERT INTO SYSTillControl ( [PCName], [MacID], [Key], [DBVersion], [LastMaint], [LastUpgrade]    ) VALUES ( 'SEAT1','','','1.0.0','','2026/03/01') ;
 --> (1)
-SELECT DBVersion, LastUpgrade FROM SYSTillControl WITH (NOLOCK)  WHERE [PCName] = 'SEAT1'
---> 14.47.41|2026/03/02
+SELECT * FROM SYSTillControl WITH (NOLOCK)  WHERE [PCName] = 'SEAT1'
+--> of DBVersion, LastUpgrade: 14.47.41|2026/03/02
 -- Tables
 CREATE TABLE [dbo].[SYSAudit] ([RecID]      int IDENTITY(1, 1) NOT NULL, [CO]         nvarchar(10), [OldValue]   float DEFAULT 0 NOT NULL, [NewValue]   float DEFAULT 0, [GLAccNo]    int DEFAULT 0, [Notes]      ntext, [Picture]    image, [LogData]    nvarchar(max), [FPData]     varbinary(max), [Value]      sql_variant, [RetryCnt]   int DEFAULT 0 NOT NULL, [Description1] nvarchar(50), [LineNo] int DEFAULT 0 NOT NULL ) ;
 --> (-1)
 ALTER TABLE [dbo].[SYSAudit]  ADD CONSTRAINT [SYSAudit_idx00] PRIMARY KEY ([RecID]) ;
 --> (-1)
-SELECT COUNT(*) FROM (SELECT * FROM INFORMATION_SCHEMA.[TABLES]  WHERE TABLE_NAME = 'sysaudit') T
---> 1
+SELECT * FROM INFORMATION_SCHEMA.[TABLES]  WHERE TABLE_NAME = 'sysaudit'
+--> of TABLE_SCHEMA, TABLE_NAME, TABLE_TYPE: dbo|SYSAudit|BASE TABLE
+SELECT * FROM INFORMATION_SCHEMA.[TABLES]  WHERE TABLE_NAME = 'Nowhere'
+--> 
 SELECT COLUMN_NAME, DATA_TYPE, CHARACTER_MAXIMUM_LENGTH FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'SYSAudit' AND DATA_TYPE <> 'sql_variant' ORDER BY ORDINAL_POSITION
 --> RecID|int|NULL;CO|nvarchar|10;OldValue|float|NULL;NewValue|float|NULL;GLAccNo|int|NULL;Notes|ntext|1073741823;Picture|image|2147483647;LogData|nvarchar|-1;FPData|varbinary|-1;RetryCnt|int|NULL;Description1|nvarchar|50;LineNo|int|NULL
 INSERT INTO SYSAudit (CO, Description1) VALUES ('01', 'Drill')
@@ -45,9 +59,15 @@ ALTER TABLE [dbo].[SYSAudit]  DROP COLUMN [UserFld]  ;
 --> error 5074
 ALTER TABLE [dbo].[SYSAudit]  DROP COLUMN [Stamp]  ;
 --> (-1)
-SELECT COUNT(*) FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'SYSAudit'   AND COLUMN_NAME IN ('Stamp', 'UserFld')
---> 1
-SELECT T1.Name AS [TableName], T2.name AS [ColumnName], LEFT(object_name(T0.constid), 12) AS [Constraint]
+SELECT * FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'SYSAudit'   AND COLUMN_NAME = 'Stamp'
+--> 
+SELECT * FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'sysaudit'   AND COLUMN_NAME = 'userfld'
+--> of COLUMN_NAME, DATA_TYPE, CHARACTER_MAXIMUM_LENGTH, IS_NULLABLE, COLUMN_DEFAULT: UserFld|nvarchar|5|NO|('N')
+SELECT * FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'SYSAudit'   AND COLUMN_NAME = 'LogData'
+--> of DATA_TYPE, CHARACTER_MAXIMUM_LENGTH, IS_NULLABLE, COLUMN_DEFAULT: nvarchar|-1|YES|NULL
+SELECT * FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'SYSAudit'   AND COLUMN_NAME = 'RetryCnt'
+--> of DATA_TYPE, CHARACTER_MAXIMUM_LENGTH, IS_NULLABLE, COLUMN_DEFAULT: int|NULL|NO|((0))
+SELECT T1.Name AS [TableName], T2.name AS [ColumnName], object_name(T0.constid) AS [Constraint]
   FROM sysconstraints T0
   JOIN sysobjects T1
     ON T1.id = T0.id
@@ -60,12 +80,14 @@ SELECT T1.Name AS [TableName], T2.name AS [ColumnName], LEFT(object_name(T0.cons
     AND T1.name = 'SYSAudit'
     AND	T1.xtype = 'U'
     AND T2.name = 'UserFld'
---> SYSAudit|UserFld|DF__SYSAudit
+--> of TableName, ColumnName: SYSAudit|UserFld
 -- Indexes
 CREATE NONCLUSTERED INDEX [SYSAudit_idx01] ON [dbo].[SYSAudit]  ([CO], [LineNo]) INCLUDE ([Description1])  WITH (  PAD_INDEX = OFF,  DROP_EXISTING = OFF,  STATISTICS_NORECOMPUTE = OFF,  SORT_IN_TEMPDB = OFF,  ONLINE = OFF,  ALLOW_ROW_LOCKS = ON,  ALLOW_PAGE_LOCKS = ON)  ON [PRIMARY]  ;
 --> (-1)
-SELECT COUNT(*) FROM (SELECT * FROM SysIndexes  WHERE LTRIM(NAME) = 'SYSAudit_idx01') T
---> 1
+SELECT * FROM SysIndexes  WHERE LTRIM(NAME) = 'sysaudit_idx01'
+--> of name: SYSAudit_idx01
+SELECT * FROM SysIndexes  WHERE LTRIM(NAME) = 'Nowhere_idx01'
+--> 
 SELECT ix.name as [IndexName], COL_NAME(ix.object_id, ixc.column_id) as [Column Name]
   FROM sys.indexes ix
  INNER JOIN sys.index_columns ixc
