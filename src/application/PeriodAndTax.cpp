@@ -6,17 +6,13 @@
 #include "data/ReadGuard.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
+#include "data/SysLoadData.h"
 
 int sfvel_GetPeriod(const QString& xDate) {
     sfg_ResetParamFields(QString());
     return guardedRead("SFVEL-14", "SYSAP", "SysFuncVelmara", "sld_GetPeriod", [&] {
         Statement wQuery(gData->Velmara);
-        wQuery.NewRead();
-        wQuery.SQL.Add("SELECT * FROM SYSAP WITH (NOLOCK) ");
-        wQuery.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-        wQuery.SQL.Add("   AND [FromDate] <= " + QuotedStr(xDate));
-        wQuery.SQL.Add("   AND [ToDate] >= " + QuotedStr(xDate));
-        wQuery.Open();
+        sld_OpenPeriodOf(wQuery, xDate);
         if (wQuery.IsEmpty()) {
             return 0;
         }

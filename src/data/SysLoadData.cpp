@@ -177,6 +177,15 @@ QString sld_GenerateDocNo(const QString& xCO, const QString& xBranch, const QStr
     return wQuery.IsEmpty() ? QStringLiteral("0") : numberOfRow(wQuery, xModCode, xTxTp);
 }
 
+void sld_OpenPeriodOf(Statement& wQuery, const QString& xDate) {
+    wQuery.NewRead();
+    wQuery.SQL.Add("SELECT * FROM SYSAP WITH (NOLOCK) ");
+    wQuery.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
+    wQuery.SQL.Add("   AND [FromDate] <= " + QuotedStr(xDate));
+    wQuery.SQL.Add("   AND [ToDate] >= " + QuotedStr(xDate));
+    wQuery.Open();
+}
+
 int sld_GetPrevAP(int xAP, int xAPCnt) {
     try {
         Statement wQuery(gData->Velmara);

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace {

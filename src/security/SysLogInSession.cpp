@@ -225,12 +225,7 @@ bool sli_GetPeriod() {
         {"500009", "SQL Error on Table: SYSAP :-\r", "SysLogIn", "sli_GetPeriod"}, [&] {
             try {
                 Statement query(gData->Velmara);
-                query.NewRead();
-                query.SQL.Add("SELECT * FROM SYSAP WITH (NOLOCK) ");
-                query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-                query.SQL.Add("   AND [FromDate] <= " + QuotedStr(today));
-                query.SQL.Add("   AND [ToDate] >= " + QuotedStr(today));
-                query.Open();
+                sld_OpenPeriodOf(query, today);
                 if (query.IsEmpty()) {
                     return tool ? takeCalendarMonth(today)
                                 : refuse(

@@ -3,6 +3,7 @@
 #include "data/Prompts.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
+#include "support/FailureOf.h"
 #include "support/FakeServer.h"
 
 #include <gtest/gtest.h>
@@ -33,15 +34,6 @@ protected:
 
     FakeServer server;
 };
-
-QString failureOf(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const std::exception& error) {
-        return errorText(error);
-    }
-    return "no failure";
-}
 
 void read(Connection& connection, const char* text) {
     Statement query(connection);

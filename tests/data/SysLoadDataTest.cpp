@@ -8,6 +8,7 @@
 #include "data/Prompts.h"
 #include "data/Session.h"
 #include "data/SysLoadCommon.h"
+#include "support/FailureOf.h"
 #include "support/FakeServer.h"
 
 #include <QComboBox>
@@ -45,15 +46,6 @@ protected:
     velcro::test::FakeServer server;
     QComboBox combo;
 };
-
-QString failureOf(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const std::exception& error) {
-        return errorText(error);
-    }
-    return "no failure";
-}
 
 } // namespace
 

@@ -2,7 +2,6 @@
 #include "data/DataModules.h"
 #include "data/Session.h"
 #include "security/CMN901.h"
-#include "security/SysLogIn.h"
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
@@ -19,20 +18,13 @@ const QString both = QStringLiteral("Double Supervisor Over-Ride Required");
 class SupervisorTest : public testing::Test
 {
 protected:
-    void SetUp() override {
-        cData->ConnectDB_Common();
-        ASSERT_TRUE(sli_VerifyDatabase("Brindavel Central Workshop"));
-        ASSERT_TRUE(sli_LogIn("COUNTER1", "COUNTER", gDBaseRecID.toInt(), {}, {}))
-            << gErrorMsg.toStdString();
-    }
-
     void authorise(const QString& code, const QString& password) {
         user.typeInto("edSuperCode", code);
         user.typeInto("edSuperPswd", password);
         user.press(Qt::Key_F10);
     }
 
-    Desk desk{Desk::Start::Configured};
+    Desk desk{Desk::Start::SignedIn};
     ScriptedUser user;
 };
 

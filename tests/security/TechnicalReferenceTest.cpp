@@ -1,7 +1,6 @@
 #include "application/Settings.h"
 #include "data/DataModules.h"
 #include "data/Session.h"
-#include "security/SysLogIn.h"
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
@@ -19,14 +18,7 @@ const QString caption = QStringLiteral("System Parameters and Access Codes");
 class TechnicalReferenceTest : public testing::Test
 {
 protected:
-    void SetUp() override {
-        cData->ConnectDB_Common();
-        ASSERT_TRUE(sli_VerifyDatabase("Brindavel Central Workshop"));
-        ASSERT_TRUE(sli_LogIn("COUNTER1", "COUNTER", gDBaseRecID.toInt(), {}, {}))
-            << gErrorMsg.toStdString();
-    }
-
-    Desk desk{Desk::Start::Configured};
+    Desk desk{Desk::Start::SignedIn};
     ScriptedUser user;
 };
 

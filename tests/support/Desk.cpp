@@ -9,6 +9,7 @@
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "platform/seat/Folders.h"
+#include "security/SysLogIn.h"
 
 #include <QDate>
 #include <QDir>
@@ -105,6 +106,8 @@ Desk::Desk(Start start) {
     onCommon("UPDATE vcSettings SET [DBHost] = " + QuotedStr(gCmnHost));
     if (start == Start::Connected) {
         connect();
+    } else if (start == Start::SignedIn) {
+        logIn();
     }
 }
 
@@ -150,6 +153,14 @@ void Desk::connect() {
     cData->ConnectDB_Common();
     gData->ConnectDB_VEL(gDBConnector, server, "VELSUITE", {}, {}, "N");
     signIn("COUNTER1", "01", "100");
+}
+
+void Desk::logIn() {
+    cData->ConnectDB_Common();
+    if (!sli_VerifyDatabase("Brindavel Central Workshop") ||
+        !sli_LogIn("COUNTER1", "COUNTER", gDBaseRecID.toInt(), {}, {})) {
+        throw std::runtime_error("COUNTER1 could not sign in: " + gErrorMsg.toStdString());
+    }
 }
 
 QString Desk::databases() const {

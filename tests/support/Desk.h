@@ -15,6 +15,7 @@ public:
     enum class Start {
         Configured, // session values and machine configuration are there; nothing is connected
         Connected,  // common and suite database open, company 01, branch 100, user COUNTER1
+        SignedIn,   // COUNTER1 has gone through the log-in
     };
 
     /// Throws std::runtime_error when the sample databases cannot be made.
@@ -44,6 +45,7 @@ private:
     void takeSample();
     void configure() const;
     static void connect();
+    static void logIn();
 
     TempFolder folder_;
 };

@@ -87,7 +87,8 @@ std::string RowSet::text(std::size_t row, std::size_t column) const {
     }
 }
 
-std::int64_t RowSet::integer(std::size_t row, std::size_t column) const {
+template <typename Number>
+Number RowSet::as(std::size_t row, std::size_t column) const {
     const auto cell = bytes(row, column);
     if (cell.empty()) {
         return 0;
@@ -95,28 +96,20 @@ std::int64_t RowSet::integer(std::size_t row, std::size_t column) const {
     switch (data_->columns[column].type) {
     case ColumnType::Integer:
     case ColumnType::Bit:
-        return readNumber<std::int64_t>(cell);
+        return static_cast<Number>(readNumber<std::int64_t>(cell));
     case ColumnType::Float:
-        return static_cast<std::int64_t>(readNumber<double>(cell));
+        return static_cast<Number>(readNumber<double>(cell));
     default:
-        return parseNumber<std::int64_t>(cell);
+        return parseNumber<Number>(cell);
     }
 }
 
+std::int64_t RowSet::integer(std::size_t row, std::size_t column) const {
+    return as<std::int64_t>(row, column);
+}
+
 double RowSet::number(std::size_t row, std::size_t column) const {
-    const auto cell = bytes(row, column);
-    if (cell.empty()) {
-        return 0;
-    }
-    switch (data_->columns[column].type) {
-    case ColumnType::Integer:
-    case ColumnType::Bit:
-        return static_cast<double>(readNumber<std::int64_t>(cell));
-    case ColumnType::Float:
-        return readNumber<double>(cell);
-    default:
-        return parseNumber<double>(cell);
-    }
+    return as<double>(row, column);
 }
 
 std::size_t RowSet::memoryUse() const {

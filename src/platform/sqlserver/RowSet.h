@@ -57,6 +57,9 @@ private:
         std::vector<const std::byte*> rows; // each: end offset of every cell, then the cells
         std::size_t blockBytes = 0;
     };
+    template <typename Number>
+    Number as(std::size_t row, std::size_t column) const;
+
     std::shared_ptr<const Data> data_;
 };
 

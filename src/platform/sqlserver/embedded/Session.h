@@ -98,6 +98,8 @@ private:
     void keepVariables(Prepared& prepared, Place& place);
     [[noreturn]] void failStep(Prepared& prepared, int code);
     void report(Place& place, std::int64_t affected);
+    template <class Translate, class Read>
+    auto oneCell(const Expr& expr, Place& place, Translate translate, Read read);
     Value evaluate(const Expr& expr, Place& place, Type* type = nullptr);
     bool holds(const Expr& expr, Place& place);
 

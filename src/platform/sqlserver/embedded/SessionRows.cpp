@@ -146,10 +146,11 @@ void Session::report(Place& place, std::int64_t affected) {
     }
 }
 
-Value Session::evaluate(const Expr& expr, Place& place, Type* type) {
+template <class Translate, class Read>
+auto Session::oneCell(const Expr& expr, Place& place, Translate translate, Read read) {
     Prepared& prepared = prepare(&expr, place, [&](const PlaceNames& names) {
                              std::vector<Translation> one;
-                             one.push_back(Emitter(names, place.program.literals).value(expr));
+                             one.push_back(translate(Emitter(names, place.program.literals)));
                              return one;
                          }).front();
     bind(prepared, place);
@@ -158,25 +159,24 @@ Value Session::evaluate(const Expr& expr, Place& place, Type* type) {
     if (code != SQLITE_ROW) {
         failStep(prepared, code);
     }
-    if (type != nullptr) {
-        *type = prepared.translation.columns.front().type;
-    }
-    return cellValue(prepared.statement.get(), 0);
+    return read(prepared);
+}
+
+Value Session::evaluate(const Expr& expr, Place& place, Type* type) {
+    const auto translate = [&expr](Emitter emitter) { return emitter.value(expr); };
+    return oneCell(expr, place, translate, [type](const Prepared& prepared) {
+        if (type != nullptr) {
+            *type = prepared.translation.columns.front().type;
+        }
+        return cellValue(prepared.statement.get(), 0);
+    });
 }
 
 bool Session::holds(const Expr& expr, Place& place) {
-    Prepared& prepared = prepare(&expr, place, [&](const PlaceNames& names) {
-                             std::vector<Translation> one;
-                             one.push_back(Emitter(names, place.program.literals).condition(expr));
-                             return one;
-                         }).front();
-    bind(prepared, place);
-    const ResetAfterUse reset{prepared.statement.get()};
-    const int code = sqlite3_step(prepared.statement.get());
-    if (code != SQLITE_ROW) {
-        failStep(prepared, code);
-    }
-    return sqlite3_column_int(prepared.statement.get(), 0) != 0;
+    const auto translate = [&expr](Emitter emitter) { return emitter.condition(expr); };
+    return oneCell(expr, place, translate, [](const Prepared& prepared) {
+        return sqlite3_column_int(prepared.statement.get(), 0) != 0;
+    });
 }
 
 } // namespace velcro::sql::tsql
