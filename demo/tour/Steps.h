@@ -10,6 +10,7 @@ void expectLogIn(Tour& tour);
 
 void addMenus(Tour& tour, TfrmMAIN000& menu);
 void addRegister(Tour& tour, TfrmMAIN000& menu);
+void addBooking(Tour& tour, TfrmMAIN000& menu);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
 /// The last steps: the program ends.

@@ -50,6 +50,7 @@ int walk(int argc, char** argv) {
     expectLogIn(tour);
     addMenus(tour, program.mainForm());
     addRegister(tour, program.mainForm());
+    addBooking(tour, program.mainForm());
     addDialogs(tour);
     addNotices(tour, program.mainForm());
     addExit(tour, program.mainForm());

@@ -185,6 +185,10 @@ void ListScreen::addSearch(const QString& keyCap) {
     button->setIcon(velcro::ui::icon(QStringLiteral("search")));
     button->setToolTip(QStringLiteral("Search [%1]").arg(keyCap));
     connectHandler(button, &KeyButton::clicked, this, [this] { btnLookupClick(); });
+    // A button acts on its underlined letter only after it was seen going down. The text that is
+    // typed next would be lost until then.
+    button->setShortcut({});
+    bindKey(QKeySequence(Qt::ALT | Qt::Key_S), button);
     btnSearch->setKeyCap(keyCap);
 }
 

@@ -3,6 +3,8 @@
 #include "ui/KeyCap.h"
 #include "ui/Theme.h"
 
+#include <QStyle>
+
 #include <algorithm>
 
 namespace velcro::ui {
@@ -39,6 +41,10 @@ void KeyButton::setKeyCap(const QString& key) {
 // The style sheet tells the kinds of button apart by these.
 void KeyButton::setRole(Role role) {
     setProperty("role", roleName(role));
+    if (testAttribute(Qt::WA_WState_Polished)) {
+        style()->unpolish(this);
+        style()->polish(this);
+    }
 }
 
 void KeyButton::setInPanel(bool inPanel) {
