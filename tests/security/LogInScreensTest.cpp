@@ -6,6 +6,7 @@
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
+#include "ui/Handler.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -145,6 +146,21 @@ TEST_F(LogInScreensTest, anExpiredPasswordMustBeChangedAndARefusalLeavesTheScree
         user.click("btnOK");
     });
     EXPECT_EQ(form.xReturn, "OK") << "still good on the expiry date itself";
+}
+
+TEST_F(LogInScreensTest, aBlankPasswordDateUnderExpiryIsAFaultAndTheScreenStays) {
+    QStringList faults;
+    velcro::ui::setErrorDisplay([&](const QString& text) { faults.append(text); });
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        refusal(form, "NODATE", "NODATE");
+        EXPECT_EQ(faults, QStringList("'' is not a valid date"));
+        EXPECT_TRUE(form.isVisible());
+        refusal(form, "COUNTER1", "COUNTER");
+    });
+    velcro::ui::setErrorDisplay({});
+    EXPECT_EQ(form.xReturn, "OK") << "another user can sign in after it";
+    EXPECT_EQ(gUserCode, "COUNTER1");
 }
 
 TEST_F(LogInScreensTest, aPasswordThatCouldNotBeWrittenIsNotLeftBehind) {
