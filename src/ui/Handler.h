@@ -27,26 +27,31 @@ void guarded(Body&& body) {
     }
 }
 
-/// QObject::connect for handlers. The handler is a member function of the receiver or a callable,
-/// and takes all arguments of the signal or none.
+/// Calls a handler: a member function of the receiver or a callable, that takes all arguments or
+/// none.
+template <typename Receiver, typename Handler, typename... Arguments>
+void callHandler([[maybe_unused]] Receiver* receiver, Handler& handler, Arguments&&... arguments) {
+    if constexpr (std::is_member_function_pointer_v<Handler>) {
+        if constexpr (std::is_invocable_v<Handler, Receiver*, Arguments...>) {
+            std::invoke(handler, receiver, std::forward<Arguments>(arguments)...);
+        } else {
+            std::invoke(handler, receiver);
+        }
+    } else if constexpr (std::is_invocable_v<Handler&, Arguments...>) {
+        handler(std::forward<Arguments>(arguments)...);
+    } else {
+        handler();
+    }
+}
+
+/// QObject::connect for handlers, as callHandler takes them.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectHandler(const Sender* sender, Signal signal, Receiver* receiver,
                                        Handler handler) {
-    return QObject::connect(sender, signal, receiver, [receiver, handler](auto&&... arguments) {
-        guarded([&] {
-            if constexpr (std::is_member_function_pointer_v<Handler>) {
-                if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>) {
-                    std::invoke(handler, receiver, arguments...);
-                } else {
-                    std::invoke(handler, receiver);
-                }
-            } else if constexpr (std::is_invocable_v<const Handler&, decltype(arguments)...>) {
-                handler(arguments...);
-            } else {
-                handler();
-            }
-        });
-    });
+    return QObject::connect(sender, signal, receiver,
+                            [receiver, handler](auto&&... arguments) mutable {
+                                guarded([&] { callHandler(receiver, handler, arguments...); });
+                            });
 }
 
 } // namespace velcro::ui

@@ -146,15 +146,15 @@ void paintCap(QPainter& painter, const QRectF& rect, const QString& legend, KeyC
 
 /// The cap of this legend in the middle of the rectangle, as large as fits.
 QRectF capRect(const QRectF& rect, const QString& legend) {
-    qreal height = rect.height();
-    qreal width = 0;
-    for (; height > 8; height -= 1) {
+    const auto widthAt = [&legend](qreal height) {
         const QFontMetricsF metrics(legendFont(height));
-        width = std::max(height, metrics.horizontalAdvance(legend) + height * 0.55);
-        if (width <= rect.width()) {
-            break;
-        }
+        return std::max(height, metrics.horizontalAdvance(legend) + height * 0.55);
+    };
+    qreal height = rect.height();
+    while (height > 9 && widthAt(height) > rect.width()) {
+        height -= 1;
     }
+    const qreal width = widthAt(height);
     return {rect.center().x() - width / 2, rect.center().y() - height / 2, width, height};
 }
 
