@@ -117,7 +117,6 @@ void Catalogue::reload() {
     routines_.clear();
     byName_.clear();
     objects_.clear();
-    changed_ = false;
     lastObjectId_ = 0;
     ++version_;
     if (hasTables_) {

@@ -127,10 +127,11 @@ public:
     std::int64_t version() const { return version_; }
     /// Reads everything anew, as after a rollback (also to a savepoint) that took changes back.
     void reload();
-    /// True since a change that is not yet committed; the session clears it at commit and calls
-    /// reload() at rollback.
+    /// True since a change in a transaction that is still open: a rollback, also one that only goes
+    /// back to a savepoint, needs reload().
     bool changedInTransaction() const { return changed_; }
-    void committed() { changed_ = false; }
+    /// Call when the transaction is over, either way.
+    void transactionEnded() { changed_ = false; }
 
     const TableDef* table(std::string_view name) const; // also views
     const RoutineDef* procedure(std::string_view name) const;

@@ -231,6 +231,7 @@ private:
     std::string optionValue();
     std::string onOff();
     Throw throwStatement();
+    ExprPtr throwArgument();
     RaiseError raiseError();
     Transaction transaction(Transaction::Kind kind);
     StatementNode execute();

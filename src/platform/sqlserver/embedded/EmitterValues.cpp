@@ -53,7 +53,7 @@ Emitter::Fragment Emitter::emit(const Literal& literal, const Scope&) {
     bind.kind = literal.kind;
     bind.index = literal.index;
     bind.from = literalType(literal.kind, literal.text);
-    if (literals_ == Literals::Open) {
+    if (literals_ == Literals::Open && literal.index != noLiteral) {
         bind.source = Bind::Source::Literal;
         // The next run may have more digits behind the point.
         if (literal.kind == LiteralKind::Decimal) {

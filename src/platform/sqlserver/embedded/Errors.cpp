@@ -263,6 +263,10 @@ constexpr Row rows[] = {
      "Column or parameter #%1: Specified column precision %2 is greater than the maximum precision "
      "of "
      "38."},
+    {2732, 16, 1,
+     "Error number %1 is invalid. The number must be from 13000 through 2147483647 and it cannot "
+     "be "
+     "50000."},
     {2751, 16, 1,
      "Column or parameter #%1: Specified column scale %2 is greater than the specified precision "
      "of "
@@ -391,6 +395,10 @@ constexpr Row rows[] = {
      "Error: The new name '%1' is already in use as a %2 name and would cause a duplicate that is "
      "not "
      "permitted."},
+    {35100, 16, 10,
+     "Error number %1 in the THROW statement is outside the valid range. Specify an error number "
+     "in "
+     "the valid range of 50000 to 2147483647."},
     {40000, 16, 1, "Not supported by the embedded database: %1."},
 };
 

@@ -315,16 +315,24 @@ std::string Descent::onOff() {
     return "OFF";
 }
 
-// throw := THROW [value ',' value ',' value]
+// argument of throw := literal | @variable
+ExprPtr Descent::throwArgument() {
+    if (!isLiteral(in_.token().kind) && !in_.is(TokenKind::Variable)) {
+        in_.refuseHere();
+    }
+    return operand();
+}
+
+// throw := THROW [argument ',' argument ',' argument]
 Throw Descent::throwStatement() {
     Throw result;
     in_.expectWord("THROW");
     if (in_.is(TokenKind::Integer) || in_.is(TokenKind::Variable)) {
-        result.number = value();
+        result.number = throwArgument();
         in_.expect(Op::Comma);
-        result.message = value();
+        result.message = throwArgument();
         in_.expect(Op::Comma);
-        result.state = value();
+        result.state = throwArgument();
     }
     return result;
 }

@@ -46,8 +46,8 @@ Session::Session(const ConnectionSettings& settings)
     , catalogue_(file_.handle.get(), settings.database, file_.readOnly)
     , host_(catalogue_, facts())
     , ddl_(catalogue_, host_)
-    , transactions_(catalogue_, settings.autoCommit)
     , temporary_(file_.handle.get())
+    , transactions_(catalogue_, temporary_, settings.autoCommit)
     , numbers_(file_.path, catalogue_,
                [this](const SeriesKey& key) { return lastKnownNumber(key); })
     , sessionValue_([this](std::string_view name) { return sessionValue(name); }) {
@@ -104,6 +104,7 @@ void Session::runPieces(std::string_view batch, std::span<const Parameter> param
                         const SqlConnection::OnResult& onResult) {
     line_ = 1;
     const std::vector<Piece> pieces = piecesOf(batch, parameters);
+    transactions_.catchUp();
     catalogue_.refresh();
     Frame frame;
     // What a batch of another kind began with must not be left over when a fault ends it.
@@ -197,7 +198,7 @@ Value Session::sessionValue(std::string_view name) const {
         return number(lockTimeout_);
     }
     if (name == "@@XACT_STATE") {
-        return number(transactions_.depth() > 0 ? 1 : 0);
+        return number(transactions_.isLost() ? -1 : transactions_.depth() > 0 ? 1 : 0);
     }
     if (!caught_) {
         return {};

@@ -195,8 +195,8 @@ private:
     Catalogue catalogue_;
     FunctionHost host_;
     Ddl ddl_;
-    Transactions transactions_;
     TemporaryTables temporary_;
+    Transactions transactions_;
     NumberSeries numbers_;
     ShapeCache<std::shared_ptr<Program>> cache_{shapesKept};
     PatternCache<std::shared_ptr<Program>> patterns_{shapesKept};

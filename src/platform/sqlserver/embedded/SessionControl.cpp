@@ -12,6 +12,7 @@ namespace velcro::sql::tsql {
 namespace {
 
 constexpr int firstUserError = 50'000;
+constexpr int firstOwnNumber = 13'000; // of messages that RAISERROR may name
 
 std::int64_t integerOf(const Value& value, const Type& type) {
     const Value converted = convert(value, type, bigIntType);
@@ -159,6 +160,9 @@ Session::Flow Session::execute(const RaiseError& error, Place& place) {
     }
     SqlMessage raised;
     raised.number = type.isNumber() ? static_cast<int>(integerOf(message, type)) : firstUserError;
+    if (type.isNumber() && (raised.number < firstOwnNumber || raised.number == firstUserError)) {
+        raise(2732, {std::to_string(raised.number)}, line_);
+    }
     raised.text = type.isNumber() ? "Error " + valueText(message, type)
                                   : formatMessage(valueText(message, type), arguments);
     raised.level = static_cast<int>(integerOf(evaluate(*error.severity, place, &type), type));
@@ -183,6 +187,9 @@ Session::Flow Session::execute(const Throw& error, Place& place) {
     SqlMessage raised;
     const Value number = evaluate(*error.number, place, &type);
     raised.number = static_cast<int>(integerOf(number, type));
+    if (raised.number < firstUserError) {
+        raise(35100, {std::to_string(raised.number)}, line_);
+    }
     const Value message = evaluate(*error.message, place, &type);
     raised.text = valueText(message, type);
     const Value state = evaluate(*error.state, place, &type);

@@ -39,9 +39,9 @@ KeySpec Session::keySpec(const Constraint& constraint, const std::string& column
 }
 
 DefaultSpec Session::defaultSpec(const Constraint& constraint, const Type& type, Place& place) {
-    Emitter emitter(PlaceNames(*this, place), Literals::Inline);
     return {constraint.name, slice(place.text, constraint.expr.source),
-            emitter.constantText(*constraint.expr.expr, type)};
+            Emitter(PlaceNames(*this, place), Literals::Inline)
+                .constantText(*constraint.expr.expr, type)};
 }
 
 ColumnSpec Session::columnSpec(const ColumnDefinition& column, Place& place,
@@ -239,8 +239,8 @@ Session::Flow Session::execute(const CreateView& create, Place& place) {
         if (create.mode != DefineMode::Create) {
             ddl_.dropView(create.name.name, create.mode == DefineMode::CreateOrAlter);
         }
-        Emitter emitter(PlaceNames(*this, place), Literals::Inline);
-        const Translation rows = emitter.view(create.select, create.columns);
+        const Translation rows =
+            Emitter(PlaceNames(*this, place), Literals::Inline).view(create.select, create.columns);
         std::vector<ColumnSpec> columns;
         for (const auto& column : rows.columns) {
             columns.push_back({column.name, column.type, true, {}, {}});

@@ -2,6 +2,9 @@
 
 #include "platform/sqlserver/embedded/Collation.h"
 #include "platform/sqlserver/embedded/Errors.h"
+#include "platform/sqlserver/embedded/SqliteQuery.h"
+
+#include <algorithm>
 
 #include <sqlite3.h>
 
@@ -9,7 +12,7 @@ namespace velcro::sql::tsql {
 
 const TableDef* TemporaryTables::find(std::string_view name) const {
     const auto found = tables_.find(foldText(name));
-    return found == tables_.end() ? nullptr : found->second.get();
+    return found == tables_.end() ? nullptr : found->second.definition.get();
 }
 
 void TemporaryTables::create(TableDef table, const std::vector<KeySpec>& keys) {
@@ -22,9 +25,16 @@ void TemporaryTables::create(TableDef table, const std::vector<KeySpec>& keys) {
     run(text);
     ++version_;
     const std::string name = table.name;
-    tables_.emplace(foldText(name), std::make_unique<TableDef>(std::move(table)));
-    for (const auto& key : keys) {
-        createIndex(name, {"key" + std::to_string(version_), true, false, false, key.columns, {}});
+    tables_.emplace(foldText(name),
+                    Table{std::make_unique<TableDef>(std::move(table)), stored()[name]});
+    try {
+        for (const auto& key : keys) {
+            createIndex(name,
+                        {"key" + std::to_string(version_), true, false, false, key.columns, {}});
+        }
+    } catch (const Fault&) {
+        drop(name);
+        throw;
     }
 }
 
@@ -51,24 +61,79 @@ bool TemporaryTables::drop(std::string_view name) {
     if (found == tables_.end()) {
         return false;
     }
-    run("DROP TABLE temp." + quoteName(found->second->name));
-    tables_.erase(found);
-    ++version_;
+    run(dropText(found->second));
+    forget(found);
     return true;
 }
 
-void TemporaryTables::dropVariables() {
+void TemporaryTables::dropVariables() noexcept {
     for (auto table = tables_.begin(); table != tables_.end();) {
-        const std::string name = table->second->name;
-        ++table;
-        if (name.starts_with('@')) {
-            drop(name);
+        const auto next = std::next(table);
+        if (table->second.definition->name.starts_with('@') &&
+            execute(dropText(table->second)) == SQLITE_OK) {
+            forget(table);
         }
+        table = next;
     }
 }
 
+std::string TemporaryTables::dropText(const Table& table) {
+    return "DROP TABLE temp." + quoteName(table.definition->name);
+}
+
+void TemporaryTables::forget(std::map<std::string, Table>::iterator table) {
+    if (sqlite3_get_autocommit(database_) == 0) {
+        dropped_.push_back(std::move(table->second));
+    }
+    tables_.erase(table);
+    ++version_;
+}
+
+std::map<std::string, std::string> TemporaryTables::stored() const {
+    std::map<std::string, std::string> tables;
+    SqliteQuery query(database_, "SELECT name, sql FROM sqlite_temp_schema WHERE type = 'table'");
+    while (query.step()) {
+        tables.emplace(query.text(0), query.text(1));
+    }
+    return tables;
+}
+
+void TemporaryTables::followRollback() {
+    if (tables_.empty() && dropped_.empty()) {
+        return;
+    }
+    auto there = stored();
+    const auto gone = std::erase_if(tables_, [&](const auto& entry) {
+        const auto& [definition, sqlite] = entry.second;
+        const auto found = there.find(definition->name);
+        const bool same = found != there.end() && found->second == sqlite;
+        if (same) {
+            there.erase(found);
+        }
+        return !same;
+    });
+    for (const auto& [name, sqlite] : there) {
+        bringBack(name, sqlite);
+    }
+    version_ += gone + there.size() == 0 ? 0 : 1;
+}
+
+void TemporaryTables::bringBack(const std::string& name, const std::string& sqlite) {
+    const auto found = std::find_if(dropped_.begin(), dropped_.end(), [&](const Table& table) {
+        return table.definition->name == name && table.sqlite == sqlite;
+    });
+    if (found != dropped_.end()) {
+        tables_.insert_or_assign(foldText(name), std::move(*found));
+        dropped_.erase(found);
+    }
+}
+
+int TemporaryTables::execute(const std::string& sqlite) const {
+    return sqlite3_exec(database_, sqlite.c_str(), nullptr, nullptr, nullptr);
+}
+
 void TemporaryTables::run(const std::string& sqlite) const {
-    if (sqlite3_exec(database_, sqlite.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+    if (execute(sqlite) != SQLITE_OK) {
         raise(50000, {sqlite3_errmsg(database_)});
     }
 }

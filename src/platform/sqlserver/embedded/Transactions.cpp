@@ -28,23 +28,54 @@ void Transactions::run(const std::string& sqlite) {
     }
 }
 
-/// What cannot be taken back has been taken back by SQLite already.
+/// What cannot be taken back has been taken back by SQLite already. What is held in memory follows.
 void Transactions::undo(const std::string& sqlite) noexcept {
-    sqlite3_exec(catalogue_.database(), sqlite.c_str(), nullptr, nullptr, nullptr);
-    if (catalogue_.changedInTransaction()) {
-        catalogue_.reload();
+    if (isOpen()) {
+        sqlite3_exec(catalogue_.database(), sqlite.c_str(), nullptr, nullptr, nullptr);
+    }
+    try {
+        if (catalogue_.changedInTransaction()) {
+            catalogue_.reload();
+        }
+        temporary_.followRollback();
+    } catch (const Fault&) {
+        behind_ = true;
     }
 }
 
+void Transactions::catchUp() {
+    if (behind_) {
+        catalogue_.reload();
+        temporary_.followRollback();
+        behind_ = false;
+    }
+}
+
+void Transactions::ended() {
+    depth_ = 0;
+    writing_ = false;
+    savepoints_.clear();
+    catalogue_.transactionEnded();
+    temporary_.transactionEnded();
+}
+
 void Transactions::beforeWrite() {
+    if (isLost()) {
+        raise(3930);
+    }
     if ((depth_ > 0 || !autoCommit_) && !isOpen()) {
         run("BEGIN IMMEDIATE");
+        writing_ = true;
     }
 }
 
 void Transactions::commit() {
     if (depth_ == 0 && autoCommit_) {
         raise(3902);
+    }
+    if (isLost()) {
+        rollback();
+        raise(3930);
     }
     if (depth_ > 1) {
         --depth_;
@@ -53,20 +84,15 @@ void Transactions::commit() {
     if (isOpen()) {
         run("COMMIT");
     }
-    depth_ = 0;
-    savepoints_.clear();
-    catalogue_.committed();
+    ended();
 }
 
 void Transactions::rollback() {
     if (depth_ == 0 && autoCommit_) {
         raise(3903);
     }
-    depth_ = 0;
-    savepoints_.clear();
-    if (isOpen()) {
-        undo("ROLLBACK");
-    }
+    undo("ROLLBACK");
+    ended();
 }
 
 void Transactions::save(std::string_view name) {
@@ -84,17 +110,10 @@ bool Transactions::hasSavepoint(std::string_view name) const {
 }
 
 void Transactions::rollbackTo(std::string_view name) {
-    if (!isOpen()) {
+    if (!isOpen() || !hasSavepoint(name)) {
         raise(6401, {name});
     }
-    sqlite3* database = catalogue_.database();
-    const std::string text = "ROLLBACK TO " + quoteName(name);
-    if (sqlite3_exec(database, text.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        raise(6401, {name});
-    }
-    if (catalogue_.changedInTransaction()) {
-        catalogue_.reload();
-    }
+    undo("ROLLBACK TO " + quoteName(name));
 }
 
 StatementScope::StatementScope(Transactions& transactions)
@@ -108,19 +127,20 @@ void StatementScope::done() {
     transactions_.run(nested_ ? std::string("RELEASE ") + statementSavepoint : "COMMIT");
     done_ = true;
     if (!nested_) {
-        transactions_.catalogue_.committed();
+        transactions_.ended();
     }
 }
 
 StatementScope::~StatementScope() {
-    if (done_ || !transactions_.isOpen()) {
+    if (done_) {
         return;
     }
     if (nested_) {
-        transactions_.undo(std::string("ROLLBACK TO ") + statementSavepoint);
-        transactions_.undo(std::string("RELEASE ") + statementSavepoint);
+        const std::string name = statementSavepoint;
+        transactions_.undo("ROLLBACK TO " + name + "; RELEASE " + name);
     } else {
         transactions_.undo("ROLLBACK");
+        transactions_.ended();
     }
 }
 

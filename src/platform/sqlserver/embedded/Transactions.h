@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/sqlserver/embedded/Catalogue.h"
+#include "platform/sqlserver/embedded/TemporaryTables.h"
 
 #include <string>
 #include <string_view>
@@ -13,15 +14,20 @@ namespace velcro::sql::tsql {
 class Transactions
 {
 public:
-    Transactions(Catalogue& catalogue, bool autoCommit)
+    Transactions(Catalogue& catalogue, TemporaryTables& temporary, bool autoCommit)
         : catalogue_(catalogue)
+        , temporary_(temporary)
         , autoCommit_(autoCommit) {}
 
     /// @@TRANCOUNT.
     int depth() const { return depth_; }
+    /// True when SQLite has taken everything back by itself, as it does when the disk is full.
+    /// Nothing can be written then before a rollback.
+    bool isLost() const { return writing_ && !isOpen(); }
 
     void begin() { ++depth_; }
-    /// Writes what is open when it is the outermost. 3902 without one, unless work may wait here.
+    /// Writes what is open when it is the outermost. 3902 without one, unless work may wait here;
+    /// 3930 when what was to be written is lost, which also ends it.
     void commit();
     /// Takes back everything since the outermost begin, and what waited. 3903 without one, unless
     /// work may wait here.
@@ -31,8 +37,11 @@ public:
     void rollbackTo(std::string_view name);
     bool hasSavepoint(std::string_view name) const;
 
-    /// Before any statement that writes: takes the write lock where a transaction is to last.
+    /// Before any statement that writes: takes the write lock where a transaction is to last. 3930
+    /// when what was written before in it is lost.
     void beforeWrite();
+    /// Before a batch: reads anew what could not be read when it was taken back.
+    void catchUp();
 
 private:
     friend class StatementScope;
@@ -40,9 +49,13 @@ private:
     bool isOpen() const;
     void run(const std::string& sqlite);
     void undo(const std::string& sqlite) noexcept;
+    void ended();
 
     Catalogue& catalogue_;
+    TemporaryTables& temporary_;
     bool autoCommit_;
+    bool behind_ = false;  // what is held in memory does not know of the last rollback
+    bool writing_ = false; // SQLite's transaction was begun, for one that is to last
     int depth_ = 0;
     std::vector<std::string> savepoints_;
 };

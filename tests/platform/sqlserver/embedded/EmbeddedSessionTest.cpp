@@ -89,6 +89,32 @@ TEST(EmbeddedSessionTest, aTransactionIsSeenByOthersWhenItIsCommitted) {
     EXPECT_EQ(count(), "3");
 }
 
+TEST(EmbeddedSessionTest, whatIsHeldInMemoryFollowsARollback) {
+    EmbeddedDatabase database;
+    auto& one = database.connection();
+    one.execute("CREATE TABLE T (a int, b int) INSERT INTO T VALUES (1, 2)");
+    // The failure of the second definition takes back its own part alone, the rollback both.
+    one.begin();
+    EXPECT_EQ(database.answer("ALTER TABLE T DROP COLUMN b ALTER TABLE T DROP COLUMN c"),
+              "(-1) error 4924");
+    one.rollback();
+    EXPECT_EQ(database.answer("SELECT b FROM T"), "2");
+    // Temporary tables go and come with the transaction, and a variable is never left over.
+    one.execute("CREATE TABLE #t (a int NOT NULL PRIMARY KEY) INSERT INTO #t VALUES (7)");
+    one.begin();
+    EXPECT_EQ(database.answer("UPDATE T SET a = 5 DROP TABLE #t CREATE TABLE #t (x nvarchar(5))"
+                              " DECLARE @v TABLE (a int) INSERT INTO @v VALUES (1)"
+                              " SELECT COUNT(*) FROM #t ROLLBACK SELECT a FROM #t"),
+              "(1) (-1) (1) 0 7");
+    EXPECT_EQ(
+        database.answer("DECLARE @v TABLE (b int) INSERT INTO @v VALUES (2) SELECT b FROM @v"),
+        "(1) 2");
+    EXPECT_EQ(database.answer("DROP TABLE #t CREATE TABLE #t (b int) SELECT COUNT(*) FROM #t"),
+              "(-1) 0");
+    EXPECT_EQ(database.answer("CREATE TABLE #u (a int, PRIMARY KEY (z))"), "error 1911");
+    EXPECT_EQ(database.answer("SELECT * FROM #u"), "error 208");
+}
+
 TEST(EmbeddedSessionTest, readingInATransactionLocksNobodyOut) {
     EmbeddedDatabase database;
     const auto other = database.open();

@@ -208,6 +208,18 @@ TEST_F(EmbeddedStatementsTest, controlFlowAndProcedures) {
          "(-1) (1) 8|y"},
         {"RAISERROR('%s is %d', 16, 1, 'it', 5)", "error 50000"},
         {"THROW 51000, 'own', 1", "error 51000"},
+        {"THROW 49999, 'own', 1", "error 35100"},
+        {"THROW 50000 + 1, 'own', 1", "error 102"},
+        {"RAISERROR(50000, 16, 1)", "error 2732"},
+        // A bare word as an argument stands for its own text.
+        {"CREATE PROCEDURE say @word NVARCHAR(9) AS SELECT @word", "(-1)"},
+        {"EXEC say ANN EXEC say [a b] EXEC nobody ANN", "ANN a b error 2812"},
+        {"say Ann", "Ann"},
+        {"CREATE VIEW Open1 AS SELECT O.CRONo FROM Orders O INNER JOIN Codes C ON C.CO = O.CO",
+         "(-1)"},
+        {"CREATE TABLE Backed (a int DEFAULT (-1), b nvarchar(5) DEFAULT 'x')"
+         " INSERT INTO Backed DEFAULT VALUES SELECT * FROM Backed",
+         "(-1) (1) -1|x"},
     });
 }
 

@@ -26,7 +26,7 @@ inline std::string doubled(std::string_view text, char mark) {
 }
 
 inline std::string name(std::string_view text) {
-    const std::size_t first = text.starts_with('#') || text.starts_with('@') ? 1 : 0;
+    const std::size_t first = text.starts_with('#') ? 1 : 0;
     bool plain = text.size() > first && (text[first] < '0' || text[first] > '9');
     for (const char c : text.substr(first)) {
         plain = plain &&
@@ -71,7 +71,10 @@ inline std::string object(const ObjectName& object) {
     while (parts.size() > 1 && parts.front().empty()) {
         parts.erase(parts.begin());
     }
-    return dotted(parts);
+    // A table variable stands as it is; every other name may begin like one within brackets.
+    const bool isVariable = parts.size() == 1 && object.name.starts_with('@');
+    return isVariable && name(object.name.substr(1)) == object.name.substr(1) ? object.name
+                                                                              : dotted(parts);
 }
 inline std::string type(const DataType& type) {
     std::string result = (type.schema.empty() ? "" : name(type.schema) + ".") + name(type.name);
