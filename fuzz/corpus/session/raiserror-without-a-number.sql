@@ -1,0 +1,3 @@
+RAISERROR(0, 16, 1)
+GO
+THROW 0, 1, 1

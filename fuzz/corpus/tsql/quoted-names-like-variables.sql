@@ -1,0 +1,1 @@
+CREATE INDEX [@x] ON [dbo].[t] ([@a], b)
