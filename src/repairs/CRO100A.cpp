@@ -254,7 +254,7 @@ void TfrmCRO100A::edAccountEntered() {
             return;
         }
     }
-    edName->setFocus();
+    edName->setFocus(Qt::TabFocusReason);
 }
 
 bool TfrmCRO100A::GetDebtor() {

@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,6 +16,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QValidator>
+
+#include <algorithm>
 
 namespace velcro::ui {
 
@@ -25,13 +28,62 @@ constexpr int margin = 10;
 constexpr int frameWidth = 20; // of an edit, left and right of its letters
 constexpr int arrowWidth = 36;
 
-class UpperCase : public QValidator
+/// Corrects what goes into an edit, typed or pasted.
+class Letters : public QValidator
 {
 public:
-    using QValidator::QValidator;
-    State validate(QString& input, int& /*position*/) const override {
-        input = input.toUpper();
+    Letters(bool upperCase, QObject* parent)
+        : QValidator(parent)
+        , upperCase_(upperCase) {}
+
+    State validate(QString& input, int& position) const override {
+        dropHalves(input, position);
+        if (upperCase_) {
+            // Letter by letter, so that the text keeps its length ("ß" stays).
+            std::transform(input.cbegin(), input.cend(), input.begin(),
+                           [](QChar letter) { return letter.toUpper(); });
+        }
         return Acceptable;
+    }
+
+private:
+    // The limit of an edit counts units of UTF-16 and can cut a letter in two. A half cannot be
+    // stored, and would come back as another letter.
+    static void dropHalves(QString& input, int& position) {
+        for (qsizetype i = input.size(); i-- > 0;) {
+            const bool whole =
+                input[i].isHighSurrogate() && i + 1 < input.size() && input[i + 1].isLowSurrogate();
+            const bool tail = input[i].isLowSurrogate() && i > 0 && input[i - 1].isHighSurrogate();
+            if (input[i].isSurrogate() && !whole && !tail) {
+                input.remove(i, 1);
+                position -= position > i ? 1 : 0;
+            }
+        }
+    }
+
+    bool upperCase_;
+};
+
+/// A long text shows its beginning while nobody works in it.
+class TextEdit : public QLineEdit
+{
+public:
+    TextEdit() {
+        QObject::connect(this, &QLineEdit::textChanged, this, [this] {
+            if (!hasFocus()) {
+                home(false);
+            }
+        });
+    }
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override {
+        QLineEdit::focusOutEvent(event);
+        // A menu or another program takes the focus for a while only.
+        if (event->reason() != Qt::PopupFocusReason &&
+            event->reason() != Qt::ActiveWindowFocusReason) {
+            home(false);
+        }
     }
 };
 
@@ -132,16 +184,14 @@ void FormBuilder::control(QWidget* widget, const QString& name, const QString& l
 
 QLineEdit* FormBuilder::edit(const QString& name, const QString& label,
                              const EditOptions& options) {
-    auto* edit = new QLineEdit;
+    auto* edit = new TextEdit;
     edit->setFixedWidth(widthOf(*edit, options.width));
     edit->setPlaceholderText(options.emptyText);
     edit->setReadOnly(options.readOnly);
     if (options.limit > 0) {
         edit->setMaxLength(options.limit);
     }
-    if (options.upperCase) {
-        edit->setValidator(new UpperCase(edit));
-    }
+    edit->setValidator(new Letters(options.upperCase, edit));
     if (options.password) {
         edit->setEchoMode(QLineEdit::Password);
     }

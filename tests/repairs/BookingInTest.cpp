@@ -2,49 +2,16 @@
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
 #include "data/Session.h"
+#include "repairs/BookingDesk.h"
 #include "repairs/CRO100.h"
-#include "repairs/CRO100A.h"
-#include "support/Desk.h"
 #include "support/ScreenChecks.h"
-#include "support/ScriptedUser.h"
-#include "ui/Handler.h"
-
-#include <gtest/gtest.h>
 
 using velcro::test::Desk;
 
 namespace {
 
-const QString headerCaption = QStringLiteral("Workshop Centre: Repair Order Management");
-
-class BookingInTest : public testing::Test
+class BookingInTest : public BookingDesk
 {
-protected:
-    static QString column(const QString& order, const QString& name) {
-        return Desk::suite("SELECT [" + name + "] FROM CRORepMst WHERE CO = '01' AND CRONo = '" +
-                           order + "'");
-    }
-    static int recID(const QString& order) { return column(order, "RecID").toInt(); }
-    static QString rowsOf(const QString& table, const QString& order) {
-        return Desk::suite("SELECT COUNT(*) FROM " + table + " WHERE CO = '01' AND CRONo = '" +
-                           order + "'");
-    }
-
-    void show(int xFunction, const QString& order, const ScriptedUser::Step& steps) {
-        TfrmCRO100A screen;
-        screen.resize(1024, 768);
-        screen.xFunction = xFunction;
-        screen.xRecID = xFunction == 1 ? 0 : recID(order);
-        user.workIn(screen, steps);
-    }
-    void fill(const QString& name) {
-        user.typeInto("edAccount", "C00001");
-        user.typeInto("edName", name);
-        user.typeInto("edCellphone", "0825550199");
-    }
-
-    Desk desk;
-    ScriptedUser user;
 };
 
 } // namespace
@@ -247,7 +214,7 @@ TEST_F(BookingInTest, aScannedAccountBringsTheCustomersName) {
 TEST_F(BookingInTest, theRegisterListsSearchesAndFindsItsPlaceAgain) {
     TfrmCRO100 screen;
     screen.resize(1024, 768);
-    user.expectForm(headerCaption, [&] {
+    user.expectForm(headerTitle, [&] {
         EXPECT_EQ(user.sees("edCRONo"), "100299");
         user.typeInto("edReference", "CHANGED");
         user.typeInto("edCellphone", "0825550111");
@@ -299,8 +266,6 @@ TEST_F(BookingInTest, aSearchReachesOtherBranchesButForTheNumber) {
 }
 
 TEST_F(BookingInTest, aQuoteInTheSearchIsAFailedRead) {
-    QStringList displayed;
-    velcro::ui::setErrorDisplay([&displayed](const QString& message) { displayed << message; });
     TfrmCRO100 screen;
     screen.resize(1024, 768);
     user.workIn(screen, [&] {
@@ -311,12 +276,11 @@ TEST_F(BookingInTest, aQuoteInTheSearchIsAFailedRead) {
         EXPECT_EQ(user.column("Order #No").size(), 300) << "the screen can be used on";
         user.press(Qt::Key_Escape);
     });
-    velcro::ui::setErrorDisplay({});
     ASSERT_EQ(desk.shown.size(), 1);
     EXPECT_TRUE(
         desk.shown[0].startsWith("100-001|SQL Error reading object \"CRORepMst\". Details: \r"))
         << desk.shown[0].toStdString();
-    EXPECT_EQ(displayed.size(), 1) << "and raised again";
+    EXPECT_EQ(raised.size(), 1) << "and raised again";
 }
 
 TEST_F(BookingInTest, anEmptyRegisterTakesNoActionAndSaysNothing) {
@@ -332,4 +296,93 @@ TEST_F(BookingInTest, anEmptyRegisterTakesNoActionAndSaysNothing) {
         user.press(Qt::Key_Escape);
     });
     EXPECT_TRUE(desk.shown.isEmpty());
+}
+
+TEST_F(BookingInTest, theRegistersKeysBookInChangeDeleteAndSearch) {
+    Desk::onSuite("UPDATE CRORepMst SET [Cellphone] = '0825550111' WHERE [CRONo] = '100300'");
+    TfrmCRO100 screen;
+    screen.resize(1024, 768);
+    user.expectForm(headerTitle, [&] {
+        EXPECT_EQ(user.sees("edCRONo"), "") << "Insert books in";
+        fill("Keyed");
+        user.press(Qt::Key_F10);
+    });
+    user.expectForm(headerTitle, [&] {
+        EXPECT_EQ(user.sees("btnSave"), "DELETE");
+        EXPECT_EQ(user.sees("edCRONo"), "100300");
+        user.press(Qt::Key_F10);
+    });
+    user.workIn(screen, [&] {
+        user.press(Qt::Key_Insert);
+        EXPECT_EQ(user.current("Order #No"), "100501") << "the first row, nothing is located";
+        EXPECT_EQ(user.current("Name"), "Keyed");
+        user.press(Qt::Key_Down);
+        user.press(Qt::Key_Delete);
+        EXPECT_EQ(user.column("Order #No").mid(0, 2), QStringList({"100501", "100299"}));
+
+        user.press(Qt::Key_S, Qt::AltModifier);
+        user.type("key");
+        user.press(Qt::Key_Backspace);
+        user.press(Qt::Key_Delete);
+        user.type("yed");
+        EXPECT_EQ(user.sees("edSearchText"), "keyed") << "Delete works in the text, not on orders";
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.column("Order #No"), QStringList("100501"));
+        user.press(Qt::Key_R, Qt::ControlModifier);
+        EXPECT_EQ(user.column("Order #No").size(), 300);
+        user.press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(user.column("Order #No"), QStringList("100501"))
+            << "the text of before, without opening the panel";
+        user.press(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(desk.shown.isEmpty()) << desk.shown.join('\n').toStdString();
+}
+
+TEST_F(BookingInTest, enterAndTabGoThroughTheHeaderInTheOrderThatIsSeen) {
+    const QStringList order = {
+        "edReference", "edTranDate",   "edReceiveDate", "cmbReceiveMthd", "edAccount",  "edName",
+        "edAddress1",  "edAddress2",   "edAddress3",    "edAddress4",     "edPostCode", "edContact",
+        "edCellphone", "edTelephone1", "edTelephone2",  "edEMail",
+    };
+    show(1, {}, [&] {
+        for (const auto key : {Qt::Key_Tab, Qt::Key_Return}) {
+            user.find<QWidget>("edReference").setFocus();
+            QStringList visited = {user.focus()};
+            while (visited.size() < order.size()) {
+                if (user.focus() == "edAccount") {
+                    user.typeInto("edAccount", "C00002");
+                }
+                user.press(key);
+                visited.append(user.focus());
+            }
+            EXPECT_EQ(visited, order) << visited.join(' ').toStdString();
+        }
+        user.press(Qt::Key_Escape);
+    });
+}
+
+TEST_F(BookingInTest, scannedTextAndDatesOfManyShapesArriveWhole) {
+    show(1, {}, [&] {
+        for (int i = 0; i < 20; ++i) {
+            user.typeInto("edAccount", "");
+            user.type("c00002");
+            user.press(Qt::Key_Return);
+            ASSERT_EQ(user.sees("edAccount"), "C00002") << i;
+            ASSERT_EQ(user.focus(), "edName") << i;
+        }
+        user.typeInto("edTranDate", "2026-1-31");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.sees("edTranDate"), "2026/01/31");
+        user.typeInto("edReceiveDate", "2026/02/30");
+        user.press(Qt::Key_F10);
+        EXPECT_EQ(user.message(), "Received Date is not a date. Type it as yyyy/mm/dd.");
+        EXPECT_EQ(user.focus(), "edReceiveDate");
+        EXPECT_EQ(user.sees("edReceiveDate"), "2026/02/30") << "what was typed stays";
+        user.typeInto("edReceiveDate", "2026/02/28");
+        user.typeInto("edCellphone", "0825550199");
+        user.press(Qt::Key_F10);
+    });
+    EXPECT_EQ(column("100501", "TranDate"), "2026/01/31");
+    EXPECT_EQ(column("100501", "ReceiveDate"), "2026/02/28");
+    EXPECT_EQ(column("100501", "Account"), "C00002");
 }

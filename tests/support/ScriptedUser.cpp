@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -105,6 +106,17 @@ void ScriptedUser::type(const QString& text) {
 }
 
 void ScriptedUser::typeInto(const QString& control, const QString& text) {
+    empty(control);
+    type(text);
+}
+
+void ScriptedUser::pasteInto(const QString& control, const QString& text) {
+    empty(control);
+    QGuiApplication::clipboard()->setText(text);
+    press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void ScriptedUser::empty(const QString& control) {
     auto& widget = find<QWidget>(control);
     if (!widget.isEnabled() || !widget.isVisible()) {
         throw std::runtime_error("cannot type into " + control.toStdString());
@@ -112,7 +124,6 @@ void ScriptedUser::typeInto(const QString& control, const QString& text) {
     widget.setFocus(Qt::TabFocusReason);
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Delete);
-    type(text);
 }
 
 void ScriptedUser::click(const QString& control) {

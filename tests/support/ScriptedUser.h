@@ -32,6 +32,8 @@ public:
     void type(const QString& text);
     /// Goes to the control, replaces what is in it.
     void typeInto(const QString& control, const QString& text);
+    /// The same from the clipboard.
+    void pasteInto(const QString& control, const QString& text);
     void click(const QString& control);
 
     /// What the control shows: the text of an edit, a combo, a button or a label.
@@ -62,6 +64,7 @@ private:
     };
 
     void meet(QDialog& form);
+    void empty(const QString& control);
     void work(QDialog& form, const Expected& expected);
 
     std::deque<Expected> expected_;

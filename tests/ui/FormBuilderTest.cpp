@@ -58,8 +58,10 @@ TEST_F(FormBuilderTest, TabGoesInReadingOrder) {
 
 TEST_F(FormBuilderTest, UpperCaseAndLimitHoldForTypedAndPastedText) {
     QTest::keyClicks(edCode, "ab9");
-    edCode->insert("éxyz");
-    EXPECT_EQ(edCode->text(), "AB9ÉX");
+    edCode->insert("éßyz");
+    EXPECT_EQ(edCode->text(), "AB9Éß") << "upper case does not make a text longer";
+    edCode->setText(QString::fromUtf8("1234😀"));
+    EXPECT_EQ(edCode->text(), "1234") << "half a letter is none";
 }
 
 TEST_F(FormBuilderTest, DatesAreTypedInManyWaysAndNothingTypedIsLost) {
