@@ -26,8 +26,8 @@ struct ListFacts
     QString errorText;
     std::vector<velcro::ui::GridColumn> columns; // in view order
     /// Each stands before the text that is searched for; none: the screen has no search panel.
-    QStringList searchFragments;
-    QString searchEnd; // what follows the search, such as an ordering
+    QStringList searchFragments = {};
+    QString searchEnd = {}; // what follows the search, such as an ordering
 };
 
 class ListScreen : public Screen

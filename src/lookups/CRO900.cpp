@@ -11,30 +11,32 @@
 namespace {
 
 ListFacts customerFacts() {
-    ListFacts facts;
-    facts.unit = QStringLiteral("CRO900");
-    facts.caption = QStringLiteral("Debtors: Customer Selection");
-    facts.errorNo = QStringLiteral("900-001");
-    facts.errorText = QStringLiteral("SQL Error on Table: DEBMaster :-");
-    facts.columns = {
-        {"Account"},
-        {"Name", "Debtors Name"},
-        {"Contact"},
-        {"Cellphone"},
-        {"Telephone"},
-        {"Telephone2", "Telephone #2"},
-        {"RecID", {}, false},
-        {"IDNo", "ID Number", false},
-        {"DefBranch", "Default Branch", false},
+    return {
+        .unit = QStringLiteral("CRO900"),
+        .caption = QStringLiteral("Debtors: Customer Selection"),
+        .errorNo = QStringLiteral("900-001"),
+        .errorText = QStringLiteral("SQL Error on Table: DEBMaster :-"),
+        .columns =
+            {
+                {"Account"},
+                {"Name", "Debtors Name"},
+                {"Contact"},
+                {"Cellphone"},
+                {"Telephone"},
+                {"Telephone2", "Telephone #2"},
+                {"RecID", {}, false},
+                {"IDNo", "ID Number", false},
+                {"DefBranch", "Default Branch", false},
+            },
+        .searchFragments =
+            {
+                QStringLiteral("AND [Account] LIKE '%"),
+                QStringLiteral(" OR [Name] LIKE '%"),
+                QStringLiteral(" OR [IDNo] LIKE '%"),
+                QStringLiteral(" OR [Cellphone] LIKE '%"),
+            },
+        .searchEnd = QStringLiteral(" ORDER BY [Name]"),
     };
-    facts.searchFragments = {
-        QStringLiteral("AND [Account] LIKE '%"),
-        QStringLiteral(" OR [Name] LIKE '%"),
-        QStringLiteral(" OR [IDNo] LIKE '%"),
-        QStringLiteral(" OR [Cellphone] LIKE '%"),
-    };
-    facts.searchEnd = QStringLiteral(" ORDER BY [Name]");
-    return facts;
 }
 
 } // namespace

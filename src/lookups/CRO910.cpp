@@ -18,24 +18,29 @@ QString statusText(const QString& stored) {
 }
 
 ListFacts serialFacts() {
-    ListFacts facts;
-    facts.unit = QStringLiteral("CRO910");
-    facts.caption = QStringLiteral("Serial Tracking: Serial Number Selection");
-    // The number is a sibling screen's and stays so.
-    facts.errorNo = QStringLiteral("920-001");
-    facts.errorText = QStringLiteral("SQL Error on Table: STKSerialMst :-");
-    facts.columns = {
-        {"Status", {}, true, statusText},   {"SerialNo", "Serial No."}, {"StockCode", "Stock Code"},
-        {"Description1", "Description #1"}, {"RecID", {}, false},
+    return {
+        .unit = QStringLiteral("CRO910"),
+        .caption = QStringLiteral("Serial Tracking: Serial Number Selection"),
+        // The number is a sibling screen's and stays so.
+        .errorNo = QStringLiteral("920-001"),
+        .errorText = QStringLiteral("SQL Error on Table: STKSerialMst :-"),
+        .columns =
+            {
+                {"Status", {}, true, statusText},
+                {"SerialNo", "Serial No."},
+                {"StockCode", "Stock Code"},
+                {"Description1", "Description #1"},
+                {"RecID", {}, false},
+            },
+        .searchFragments =
+            {
+                QStringLiteral("AND T0.[StockCode] LIKE '%"),
+                QStringLiteral(" OR T0.[LinkCode] LIKE '%"),
+                QStringLiteral(" OR T0.[SerialNo] LIKE '%"),
+                QStringLiteral(" OR T1.[Description1] LIKE '%"),
+            },
+        .searchEnd = QStringLiteral(" ORDER BY T0.[SerialNo] DESC"),
     };
-    facts.searchFragments = {
-        QStringLiteral("AND T0.[StockCode] LIKE '%"),
-        QStringLiteral(" OR T0.[LinkCode] LIKE '%"),
-        QStringLiteral(" OR T0.[SerialNo] LIKE '%"),
-        QStringLiteral(" OR T1.[Description1] LIKE '%"),
-    };
-    facts.searchEnd = QStringLiteral(" ORDER BY T0.[SerialNo] DESC");
-    return facts;
 }
 
 } // namespace

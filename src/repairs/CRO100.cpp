@@ -35,20 +35,23 @@ std::vector<GridColumn> registerColumns() {
 }
 
 ListFacts registerFacts() {
-    ListFacts facts;
-    facts.unit = QStringLiteral("CRO100");
-    facts.caption = QStringLiteral("Workshop Centre: Repair Orders Management");
-    facts.errorNo = QStringLiteral("100-001");
-    facts.errorText = QStringLiteral("SQL Error reading object \"CRORepMst\". Details: ");
-    facts.columns = registerColumns();
-    // Without brackets only the first term is bound to the company and branch: a match on the
-    // others is wanted from everywhere.
-    facts.searchFragments = {
-        QStringLiteral("AND [CRONo] LIKE '%"),     QStringLiteral(" OR [Account] LIKE '%"),
-        QStringLiteral(" OR [Name] LIKE '%"),      QStringLiteral(" OR [Cellphone] LIKE '%"),
-        QStringLiteral(" OR [Reference] LIKE '%"),
+    return {
+        .unit = QStringLiteral("CRO100"),
+        .caption = QStringLiteral("Workshop Centre: Repair Orders Management"),
+        .errorNo = QStringLiteral("100-001"),
+        .errorText = QStringLiteral("SQL Error reading object \"CRORepMst\". Details: "),
+        .columns = registerColumns(),
+        // Without brackets only the first term is bound to the company and branch: a match on the
+        // others is wanted from everywhere.
+        .searchFragments =
+            {
+                QStringLiteral("AND [CRONo] LIKE '%"),
+                QStringLiteral(" OR [Account] LIKE '%"),
+                QStringLiteral(" OR [Name] LIKE '%"),
+                QStringLiteral(" OR [Cellphone] LIKE '%"),
+                QStringLiteral(" OR [Reference] LIKE '%"),
+            },
     };
-    return facts;
 }
 
 } // namespace

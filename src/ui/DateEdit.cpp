@@ -85,6 +85,7 @@ void DateEdit::pickDate() {
     layout->addWidget(calendar);
     connectHandler(calendar, &QCalendarWidget::activated, &popup, &QDialog::accept);
     connectHandler(calendar, &QCalendarWidget::clicked, &popup, &QDialog::accept);
+    calendar->setFocus(); // the days, not the heading above them
     popup.move(mapToGlobal(QPoint(0, height())));
     if (runModal(popup) == QDialog::Accepted) {
         setDate(calendar->selectedDate());

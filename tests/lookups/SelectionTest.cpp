@@ -94,6 +94,47 @@ TEST_F(SelectionTest, aSearchLiftsTheCapAndRestoreBringsItBack) {
     EXPECT_EQ(gSParam[2], "100");
 }
 
+TEST_F(SelectionTest, aScannerSearchesWithoutLosingALetter) {
+    user.expectForm(customers, [this] {
+        const auto whole = user.column("Account");
+        user.press(Qt::Key_S, Qt::AltModifier);
+        user.type("C00002");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.column("Account"), QStringList("C00002"));
+        EXPECT_EQ(user.focus(), "grdList");
+        user.press(Qt::Key_S, Qt::AltModifier);
+        user.type("c00001"); // in place of what was there
+        user.press(Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(user.column("Account"), QStringList("C00001")) << "leaving the text searches";
+        user.press(Qt::Key_S, Qt::AltModifier);
+        user.type("  ");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.column("Account"), QStringList("C00001")) << "blank: nothing happens";
+        user.press(Qt::Key_F12);
+        EXPECT_EQ(user.column("Account"), whole);
+        user.press(Qt::Key_Escape);
+        if (user.form().isVisible()) {
+            user.press(Qt::Key_Escape);
+        }
+    });
+    EXPECT_EQ(cro_BrowseDEBMaster({}), "");
+
+    TfrmCRO910 serials;
+    user.workIn(serials, [this] {
+        search("no such serial");
+        EXPECT_EQ(user.column("Serial No."), QStringList());
+        user.press(Qt::Key_S, Qt::AltModifier);
+        user.type("1");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.column("Serial No."), QStringList()) << "Enter at the end does nothing";
+        user.click("btnSearch");
+        EXPECT_FALSE(user.column("Serial No.").isEmpty());
+        user.press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(desk.shown, QStringList());
+}
+
 TEST_F(SelectionTest, keyCapsFollowTheSeatsParameter) {
     for (const char* value : {"N", "Y"}) {
         gParameters.clear();
