@@ -196,6 +196,10 @@ private:
 
 /// The name of an index in SQLite, where index names share one space: Table.Index.
 std::string sqliteIndexName(const TableDef& table, const IndexDef& index);
+/// SQLite takes any number of NULLs in a unique index, the server one: a second index, over the rows
+/// with a NULL in the key, holds them to it. Its name, and the CREATE text's "T(...) WHERE ...".
+std::string nullsIndexName(const TableDef& table, const IndexDef& index);
+std::string nullsIndexText(const TableDef& table, const IndexDef& index);
 /// CREATE TABLE as it stands in the file: INTEGER PRIMARY KEY AUTOINCREMENT for an identity column,
 /// the collation on text, NOT NULL and DEFAULT; no lengths, which the catalogue keeps.
 std::string sqliteTableText(const TableDef& table, std::string_view name);

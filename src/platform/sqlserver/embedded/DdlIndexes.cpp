@@ -80,6 +80,7 @@ void Ddl::dropConstraint(std::string_view tableName, std::string_view name, bool
 void Ddl::removeIndex(TableDef& table, const IndexDef& index) {
     if (!isIdentityKey(table, index)) {
         run("DROP INDEX " + quoteName(sqliteIndexName(table, index)));
+        run("DROP INDEX IF EXISTS " + quoteName(nullsIndexName(table, index)));
     }
     const int id = index.id;
     std::erase_if(table.indexes, [&](const IndexDef& other) { return other.id == id; });

@@ -213,7 +213,7 @@ std::vector<KeyColumn> Ddl::keyColumns(const TableDef& table, std::string_view i
         keys.push_back({column->id, spec.descending});
     }
     if (keys.size() > 32) {
-        raise(1904, {"The index '", index, "' has more than 32 key columns."});
+        raise(1904, {index, table.name, std::to_string(keys.size())});
     }
     return keys;
 }
@@ -253,6 +253,10 @@ void Ddl::makeIndex(const TableDef& table, const IndexDef& index) {
     run("CREATE " + std::string(index.unique ? "UNIQUE " : "") + "INDEX " +
         quoteName(sqliteIndexName(table, index)) + " ON " + quoteName(table.name) + "(" + columns +
         ")");
+    if (index.unique && !index.primaryKey) {
+        run("CREATE UNIQUE INDEX " + quoteName(nullsIndexName(table, index)) + " ON " +
+            nullsIndexText(table, index));
+    }
 }
 
 // SQLite would refuse them too, but not say which.

@@ -156,6 +156,9 @@ private:
                      std::span<const std::string> names);
     std::string orderText(const std::vector<OrderItem>& order, const Core& core,
                           const Scope& scope);
+    void requireSortable(const Type& type) const;
+    /// Never more than one: an aggregate over all rows, or no table at all.
+    static bool givesOneRow(const QueryBody& body);
     std::string orderKey(const Expr& expr, const Core& core, const Scope& scope);
     std::string limitText(const SelectCore* select, const Query& query, const Scope& scope);
 

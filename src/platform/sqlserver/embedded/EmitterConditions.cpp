@@ -8,20 +8,32 @@ namespace velcro::sql::tsql {
 
 namespace {
 
-std::string_view sign(CompareOp op) {
+struct OperatorText
+{
+    std::string_view sign;
+    std::string_view words; // as the server's messages have it
+};
+
+OperatorText textOf(CompareOp op) {
     switch (op) {
     case CompareOp::Equal:
-        return " = ";
+        return {" = ", "equal to"};
     case CompareOp::NotEqual:
-        return " <> ";
+        return {" <> ", "not equal to"};
     case CompareOp::Less:
-        return " < ";
+        return {" < ", "less than"};
     case CompareOp::LessEqual:
-        return " <= ";
+        return {" <= ", "less than or equal to"};
     case CompareOp::Greater:
-        return " > ";
+        return {" > ", "greater than"};
     default:
-        return " >= ";
+        return {" >= ", "greater than or equal to"};
+    }
+}
+
+void requireComparable(CompareOp op, const Type& left, const Type& right, int line) {
+    if (!left.isComparable() || !right.isComparable()) {
+        raise(402, {baseTypeName(left.id), baseTypeName(right.id), textOf(op).words}, line);
     }
 }
 
@@ -40,15 +52,13 @@ std::string Emitter::test(const Node&, const Scope&) {
 }
 
 std::string Emitter::compare(CompareOp op, Fragment left, Fragment right) {
+    requireComparable(op, left.type, right.type, line_);
     const Type type = commonType(left.type, right.type);
-    if (left.type.isLongText() && right.type.isLongText()) {
-        raise(402, {typeName(left.type), typeName(right.type), "equal to"}, line_);
-    }
     const bool needsCollation = type.isText() && !left.collated && !right.collated;
     Fragment shown{{}, type, !needsCollation, {}};
     // A column keeps its own form, so that an index on it serves; the other side follows.
     std::string text = collatedText(shown, as(std::move(left), type));
-    text += sign(op);
+    text += textOf(op).sign;
     return text + as(std::move(right), type);
 }
 
@@ -89,6 +99,7 @@ std::string Emitter::test(const InList& list, const Scope& scope) {
     Type type = operand.type;
     for (const auto& value : list.values) {
         values.push_back(valueOf(*value, scope));
+        requireComparable(CompareOp::Equal, operand.type, values.back().type, line_);
         type = commonType(type, values.back().type);
     }
     const Fragment shown{{}, type, operand.collated, {}};
@@ -107,6 +118,7 @@ std::string Emitter::test(const InQuery& in, const Scope& scope) {
         raise(116, {}, line_);
     }
     const Type& found = rows.columns[0].type;
+    requireComparable(CompareOp::Equal, operand.type, found, line_);
     const Type type = commonType(operand.type, found);
     const Fragment shown{{}, type, operand.collated, {}};
     std::string text = collatedText(shown, as(std::move(operand), type));

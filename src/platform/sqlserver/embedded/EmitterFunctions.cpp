@@ -1,6 +1,7 @@
 // Calls of functions: aggregates, rankings, those that SQL has syntax for, and the plain ones.
 #include "platform/sqlserver/embedded/Emitter.h"
 
+#include "platform/sqlserver/embedded/Collation.h"
 #include "platform/sqlserver/embedded/Errors.h"
 #include "platform/sqlserver/embedded/SessionValues.h"
 #include "platform/sqlserver/embedded/SqliteText.h"
@@ -140,9 +141,12 @@ Emitter::Fragment Emitter::aggregate(const std::string& name, const FunctionCall
                 false,
                 {}};
     }
+    if (!type.isComparable()) {
+        raise(8117, {baseTypeName(type.id), lowerText(name)}, line_);
+    }
     const bool numeric = name == "SUM" || name == "AVG";
     if (numeric && type.isText()) {
-        raise(8117, {typeName(type), upperName(name) == "SUM" ? "sum" : "avg"}, line_);
+        raise(8117, {baseTypeName(type.id), lowerText(name)}, line_);
     }
     Fragment shown = value;
     const std::string text = collatedText(shown, placed(std::move(value)));
@@ -243,8 +247,12 @@ std::string Emitter::argument(ArgumentKind kind, const Expr& expr, const Scope& 
     type = fragment.type;
     switch (kind) {
     case ArgumentKind::Text:
+    case ArgumentKind::LongText:
+    case ArgumentKind::OnlyText:
+    case ArgumentKind::OnlyLongText:
         return asText(std::move(fragment));
     case ArgumentKind::Integer:
+    case ArgumentKind::OnlyNumber:
         return as(std::move(fragment), intType);
     case ArgumentKind::Number:
         return type.isNumber() ? placed(std::move(fragment)) : as(std::move(fragment), floatType);
@@ -266,7 +274,12 @@ Emitter::Fragment Emitter::plainFunction(const FunctionInfo& info, const Functio
         const auto letter =
             info.arguments.empty() ? 'a' : info.arguments[std::min(i, info.arguments.size() - 1)];
         text += i == 0 ? "" : ",";
-        text += argument(static_cast<ArgumentKind>(letter), *call.arguments[i], scope, types[i]);
+        const auto kind = static_cast<ArgumentKind>(letter);
+        text += argument(kind, *call.arguments[i], scope, types[i]);
+        if (!accepts(kind, types[i])) {
+            const auto name = info.name == "TRIM" ? "Trim" : lowerText(info.name);
+            raise(8116, {baseTypeName(types[i].id), std::to_string(i + 1), name}, line_);
+        }
         if (info.passesTypes) {
             text += "," + std::to_string(types[i].code());
         }

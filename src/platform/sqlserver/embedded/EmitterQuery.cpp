@@ -37,6 +37,12 @@ std::string columnName(const SelectItem& item) {
 
 } // namespace
 
+bool Emitter::givesOneRow(const QueryBody& body) {
+    const auto* select = std::get_if<SelectCore>(&body.node);
+    return select != nullptr && select->groupBy.empty() &&
+           (select->from.empty() || groups(*select));
+}
+
 Emitter::QueryText Emitter::query(const Query& query, const Scope* outer, bool nested,
                                   std::span<const std::string> names) {
     const auto* select = std::get_if<SelectCore>(&query.body->node);
@@ -80,6 +86,7 @@ std::string Emitter::groupText(const SelectCore& select, const Scope& scope, Gro
     std::string text;
     for (const auto& expr : select.groupBy) {
         Fragment key = valueOf(*expr, scope);
+        requireSortable(key.type);
         const Fragment shown = key;
         const std::string placedText = placed(std::move(key));
         // What is grouped by an expression is not told apart from what is not.
@@ -126,6 +133,9 @@ Emitter::QueryText Emitter::joined(Core core, bool nested, std::span<const Type>
     for (std::size_t i = 0; i < core.items.size(); ++i) {
         Item& item = core.items[i];
         const Type type = types.empty() ? item.value.type : types[i];
+        if (core.head == "SELECT DISTINCT " && !type.isComparable()) {
+            raise(421, {baseTypeName(type.id)}, line_);
+        }
         const std::string name = i < names.size() ? names[i] : item.name;
         const Fragment shown{{}, type, item.value.collated, {}};
         const std::string text = as(std::move(item.value), type);
@@ -150,6 +160,12 @@ std::string Emitter::orderText(const std::vector<OrderItem>& order, const Core& 
     return text;
 }
 
+void Emitter::requireSortable(const Type& type) const {
+    if (!type.isComparable()) {
+        raise(306, {}, line_);
+    }
+}
+
 /// A position, the alias of a column of the list, or an expression over the tables.
 std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& scope) {
     const auto* position = std::get_if<Literal>(&expr.node);
@@ -158,6 +174,7 @@ std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& s
         if (wanted < 1 || wanted > core.items.size()) {
             raise(108, {position->text}, line_);
         }
+        requireSortable(core.items[wanted - 1].value.type);
         return position->text;
     }
     const auto* reference = std::get_if<ColumnRef>(&expr.node);
@@ -175,12 +192,14 @@ std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& s
             found != core.items.end() && !found->value.bind && !found->value.text.empty();
         if (isColumn && again == core.items.end()) {
             const Fragment& value = found->value;
+            requireSortable(value.type);
             const auto ordinal = std::to_string(found - core.items.begin() + 1);
             return value.collated || !value.type.isText() ? ordinal
                                                           : collatedText(value, value.text);
         }
     }
     Fragment key = valueOf(expr, scope);
+    requireSortable(key.type);
     const Fragment shown = key;
     return collatedText(shown, placed(std::move(key)));
 }

@@ -280,7 +280,17 @@ Emitter::Fragment Emitter::emit(const ScalarQuery& scalar, const Scope& scope) {
     if (text.columns.size() != 1) {
         raise(116, {}, line_);
     }
-    return {"(" + text.text + ")", text.columns[0].type, text.columns[0].type.isText(), {}};
+    const Type& type = text.columns[0].type;
+    if (givesOneRow(*scalar.query->body)) {
+        return {"(" + text.text + ")", type, type.isText(), {}};
+    }
+    // SQLite would take the first of several rows in silence.
+    return {"(WITH \"one\"(\"v\") AS (" + text.text +
+                ") SELECT CASE WHEN count(*) > 1 THEN ts_raise(512) ELSE max(\"v\") END"
+                " FROM (SELECT \"v\" FROM \"one\" LIMIT 2))",
+            type,
+            false,
+            {}};
 }
 
 } // namespace velcro::sql::tsql

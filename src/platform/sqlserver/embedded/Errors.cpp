@@ -24,6 +24,8 @@ constexpr Row rows[] = {
      "or "
      "EXCEPT operator."},
     {105, 15, 1, "Unclosed quotation mark after the character string '%1'."},
+    {107, 15, 1,
+     "The column prefix '%1' does not match with a table name or alias name used in the query."},
     {108, 15, 1,
      "The ORDER BY position number %1 is out of range of the number of items in the "
      "select list."},
@@ -122,6 +124,7 @@ constexpr Row rows[] = {
     {257, 16, 3,
      "Implicit conversion from data type %1 to %2 is not allowed. Use the CONVERT function to run "
      "this query."},
+    {263, 16, 1, "Must specify table to select from."},
     {264, 16, 1,
      "The column name '%1' is specified more than once in the SET clause or column list of an "
      "INSERT. "
@@ -177,6 +180,7 @@ constexpr Row rows[] = {
      "is set to ON or when a replication user is inserting into a NOT FOR REPLICATION identity "
      "column."},
     {547, 16, 0, "The %1 statement conflicted with the %2 constraint \"%3\"."},
+    {628, 16, 0, "Cannot issue SAVE TRANSACTION when there is no active transaction."},
     {911, 16, 1, "Database '%1' does not exist. Make sure that the name is entered correctly."},
     {916, 14, 1,
      "The server principal \"%1\" is not able to access the database \"%2\" under the current "
@@ -227,6 +231,9 @@ constexpr Row rows[] = {
     {1902, 16, 3,
      "Cannot create more than one clustered index on table '%1'. Drop the existing clustered index "
      "'%2' before creating another."},
+    {1904, 16, 1,
+     "The index '%1' on table '%2' has %3 columns in the key list. The maximum limit for index key "
+     "column list is 32."},
     {1907, 16, 1,
      "Cannot recreate index '%1'. The new index definition does not match the constraint being "
      "enforced by the existing index."},
@@ -329,6 +336,7 @@ constexpr Row rows[] = {
      "In a MERGE statement, a '%1' clause with a search condition cannot appear after a '%1' "
      "clause "
      "with no search condition."},
+    {6401, 16, 1, "Cannot roll back %1. No transaction or savepoint of that name was found."},
     {8101, 16, 1,
      "An explicit value for the identity column in table '%1' can only be specified when a column "
      "list is used and IDENTITY_INSERT is ON."},
@@ -382,11 +390,15 @@ constexpr Row rows[] = {
      "same row of the target table multiple times. Refine the ON clause to ensure a target row "
      "matches at most one source row, or use the GROUP BY clause to group the source rows."},
     {9002, 17, 2, "The transaction log for database '%1' is full due to '%2'."},
+    {10704, 15, 1,
+     "To rethrow an error, a THROW statement must be used inside a CATCH block. Insert the THROW "
+     "statement inside a CATCH block, or add error parameters to the THROW statement."},
     {10713, 15, 1, "A MERGE statement must be terminated by a semi-colon (;)."},
     {10714, 15, 1,
      "An action of type '%1' cannot appear more than once in a '%2' clause of a MERGE statement."},
     {10742, 15, 1, "The offset specified in a OFFSET clause may not be negative."},
     {10744, 15, 1, "The number of rows provided for a FETCH clause must be greater then zero."},
+    {10753, 15, 1, "The function '%1' must have an OVER clause."},
     {15225, 11, 1,
      "No item by the name of '%1' could be found in the current database '%2', given that "
      "@itemtype "

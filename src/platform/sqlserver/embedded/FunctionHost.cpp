@@ -35,7 +35,15 @@ void registerAll(sqlite3* database, std::span<const ScalarFunction> functions, F
     }
 }
 
-// "UNIQUE constraint failed: T.A, T.B" names the columns, or with expressions the index.
+// "UNIQUE constraint failed: T.A, T.B" names the columns, or with expressions the index, as
+// "index 'T.I'".
+constexpr std::string_view namedIndex = "index '";
+
+std::string_view brokenTable(std::string_view columns) {
+    columns.remove_prefix(columns.starts_with(namedIndex) ? namedIndex.size() : 0);
+    return columns.substr(0, columns.find('.'));
+}
+
 const IndexDef* brokenIndex(const TableDef& table, std::string_view columns) {
     for (const auto& index : table.indexes) {
         std::string listed;
@@ -43,7 +51,8 @@ const IndexDef* brokenIndex(const TableDef& table, std::string_view columns) {
             listed += (listed.empty() ? "" : ", ") + table.name + "." +
                       table.columnById(key.columnId)->name;
         }
-        if (index.unique && sameName(listed, columns)) {
+        const std::string named = std::string(namedIndex) + nullsIndexName(table, index) + "'";
+        if (index.unique && (sameName(listed, columns) || sameName(named, columns))) {
             return &index;
         }
     }
@@ -51,7 +60,7 @@ const IndexDef* brokenIndex(const TableDef& table, std::string_view columns) {
 }
 
 Fault uniqueFault(const Catalogue& catalogue, std::string_view columns) {
-    const auto* table = catalogue.table(columns.substr(0, columns.find('.')));
+    const auto* table = catalogue.table(brokenTable(columns));
     if (!table) {
         return Fault(serverMessage(2627, {"UNIQUE KEY", columns, ""}));
     }

@@ -22,18 +22,18 @@ constexpr FunctionInfo functions[] = {
     {"ASCII", "ts_unicode", 1, 1, Fixed, intType, "t"},
     {"CEILING", "ts_ceiling", 1, 1, NumberOfFirst, {}, "n"},
     {"CHAR", "ts_char", 1, 1, Fixed, {TypeId::Char, 1}, "i"},
-    {"CHARINDEX", "ts_charindex", 2, 3, Fixed, intType, "tti"},
+    {"CHARINDEX", "ts_charindex", 2, 3, Fixed, intType, "Tli"},
     {"CHOOSE", "ts_choose", 2, -1, Common, {}, "ia"},
     {"COALESCE", "", 1, -1, Common, {}, "a"},
     {"COLUMNPROPERTY", "ts_columnproperty", 3, 3, Fixed, intType, "itt"},
     {"COL_LENGTH", "ts_col_length", 2, 2, Fixed, intType, "tt"},
     {"COL_NAME", "ts_col_name", 2, 2, Fixed, name128, "ii"},
-    {"CONCAT", "ts_concat", 2, 254, Fixed, nvarcharType(4000), "t"},
-    {"CONCAT_WS", "ts_concat_ws", 3, 254, Fixed, nvarcharType(4000), "t"},
+    {"CONCAT", "ts_concat", 2, 254, Fixed, nvarcharType(4000), "l"},
+    {"CONCAT_WS", "ts_concat_ws", 3, 254, Fixed, nvarcharType(4000), "l"},
     {"CURRENT_TIMESTAMP", "ts_getdate", 0, 0, Fixed, dateTimeType, ""},
     {"CURRENT_USER", "ts_user_name", 0, 0, Fixed, name128, ""},
     {"DATALENGTH", "ts_datalength", 1, 1, Fixed, intType, "a", true},
-    {"DATEADD", "ts_dateadd", 3, 3, DateOfLast, {}, "pid", true},
+    {"DATEADD", "ts_dateadd", 3, 3, DateOfLast, {}, "pId", true},
     {"DATEDIFF", "ts_datediff", 3, 3, Fixed, intType, "pd"},
     {"DATEFROMPARTS", "ts_datefromparts", 3, 3, Fixed, dateType, "i"},
     {"DATENAME", "ts_datename", 2, 2, Fixed, nvarcharType(30), "pd"},
@@ -52,7 +52,7 @@ constexpr FunctionInfo functions[] = {
     {"ISDATE", "ts_isdate", 1, 1, Fixed, intType, "t"},
     {"ISNULL", "", 2, 2, SameAsFirst, {}, "a"},
     {"ISNUMERIC", "ts_isnumeric", 1, 1, Fixed, intType, "a"},
-    {"LEFT", "ts_left", 2, 2, TextOfFirst, {}, "ti"},
+    {"LEFT", "ts_left", 2, 2, TextOfFirst, {}, "tI"},
     {"LEN", "ts_len", 1, 1, Fixed, intType, "t"},
     {"LOG", "ts_log", 1, 2, Fixed, floatType, "f"},
     {"LOG10", "ts_log10", 1, 1, Fixed, floatType, "f"},
@@ -66,7 +66,7 @@ constexpr FunctionInfo functions[] = {
     {"OBJECT_ID", "ts_object_id", 1, 2, Fixed, intType, "t"},
     {"OBJECT_NAME", "ts_object_name", 1, 2, Fixed, name128, "i"},
     {"OBJECT_SCHEMA_NAME", "ts_object_schema_name", 1, 2, Fixed, name128, "i"},
-    {"PATINDEX", "ts_patindex", 2, 2, Fixed, intType, "t"},
+    {"PATINDEX", "ts_patindex", 2, 2, Fixed, intType, "tl"},
     {"PI", "ts_pi", 0, 0, Fixed, floatType, ""},
     {"POWER", "ts_power", 2, 2, NumberOfFirst, {}, "nf"},
     {"QUOTENAME", "ts_quotename", 1, 1, Fixed, nvarcharType(258), "t"},
@@ -74,8 +74,8 @@ constexpr FunctionInfo functions[] = {
     {"REPLACE", "ts_replace", 3, 3, TextOfFirst, {}, "t"},
     {"REPLICATE", "ts_replicate", 2, 2, TextOfFirst, {}, "ti"},
     {"REVERSE", "ts_reverse", 1, 1, TextOfFirst, {}, "t"},
-    {"RIGHT", "ts_right", 2, 2, TextOfFirst, {}, "ti"},
-    {"ROUND", "ts_round", 2, 3, NumberOfFirst, {}, "ni"},
+    {"RIGHT", "ts_right", 2, 2, TextOfFirst, {}, "tI"},
+    {"ROUND", "ts_round", 2, 3, NumberOfFirst, {}, "nI"},
     {"RTRIM", "ts_rtrim", 1, 1, TextOfFirst, {}, "t"},
     {"SCHEMA_ID", "ts_schema_id", 0, 1, Fixed, intType, "t"},
     {"SCHEMA_NAME", "ts_schema_name", 0, 1, Fixed, name128, "i"},
@@ -88,12 +88,12 @@ constexpr FunctionInfo functions[] = {
     {"SQUARE", "ts_square", 1, 1, Fixed, floatType, "f"},
     {"STR", "ts_str", 1, 3, Fixed, varcharType(8000), "fi"},
     {"STUFF", "ts_stuff", 4, 4, TextOfFirst, {}, "tiit"},
-    {"SUBSTRING", "ts_substring", 3, 3, TextOfFirst, {}, "ti"},
+    {"SUBSTRING", "ts_substring", 3, 3, TextOfFirst, {}, "LI"},
     {"SUSER_NAME", "ts_suser_sname", 0, 1, Fixed, name128, "a"},
     {"SUSER_SNAME", "ts_suser_sname", 0, 1, Fixed, name128, "a"},
     {"SYSDATETIME", "ts_sysdatetime", 0, 0, Fixed, dateTime2Type, ""},
     {"SYSTEM_USER", "ts_suser_sname", 0, 0, Fixed, name128, ""},
-    {"TRIM", "ts_trim", 1, 1, TextOfFirst, {}, "t"},
+    {"TRIM", "ts_trim", 1, 1, TextOfFirst, {}, "T"},
     {"TYPE_NAME", "ts_type_name", 1, 1, Fixed, name128, "i"},
     {"UNICODE", "ts_unicode", 1, 1, Fixed, intType, "t"},
     {"UPPER", "ts_upper", 1, 1, TextOfFirst, {}, "t"},
@@ -202,6 +202,21 @@ void requireArgumentCount(const FunctionInfo& function, std::size_t count) {
         raise(174, {name, std::to_string(least)});
     }
     raise(189, {name, std::to_string(least), open ? "254" : std::to_string(most)});
+}
+
+bool accepts(ArgumentKind kind, const Type& type) {
+    switch (kind) {
+    case ArgumentKind::Text:
+        return type.isComparable();
+    case ArgumentKind::OnlyText:
+        return type.isNull() || ((type.isText() || type.isBinary()) && type.isComparable());
+    case ArgumentKind::OnlyLongText:
+        return type.isText() || type.isBinary();
+    case ArgumentKind::OnlyNumber:
+        return !type.isText();
+    default:
+        return true;
+    }
 }
 
 Type resultType(const FunctionInfo& function, std::span<const Type> arguments) {

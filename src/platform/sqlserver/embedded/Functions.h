@@ -29,13 +29,21 @@ enum class ResultRule {
 /// What an argument is converted to before the call; the emitter does it.
 enum class ArgumentKind : char {
     Any = 'a',      // as it comes
-    Text = 't',     // to text
+    Text = 't',     // to text; text, ntext and image are refused (8116)
+    LongText = 'l', // to text, those too
     Integer = 'i',  // to int
     Number = 'n',   // text becomes float, numbers stay
     Float = 'f',    // to float
     DateTime = 'd', // text and numbers become datetime, date types stay
     DatePart = 'p', // a bare word such as day or mi; sent as a text constant, see datePartName()
+    // Converted likewise, from their own kind alone; all else is refused (8116).
+    OnlyText = 'T',     // text and binary but the long ones
+    OnlyLongText = 'L', // text and binary
+    OnlyNumber = 'I',   // to int; text is refused
 };
+
+/// Whether the server takes an argument of that type there.
+bool accepts(ArgumentKind kind, const Type& type);
 
 struct FunctionInfo
 {

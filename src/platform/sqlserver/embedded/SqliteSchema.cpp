@@ -16,6 +16,23 @@ std::string sqliteIndexName(const TableDef& table, const IndexDef& index) {
     return table.name + "." + index.name;
 }
 
+std::string nullsIndexName(const TableDef& table, const IndexDef& index) {
+    return sqliteIndexName(table, index) + "$nulls";
+}
+
+std::string nullsIndexText(const TableDef& table, const IndexDef& index) {
+    std::string keys;
+    std::string anyNull;
+    for (const auto& key : index.keys) {
+        const auto& column = *table.columnById(key.columnId);
+        const std::string name = quoteName(column.name);
+        keys += (keys.empty() ? "" : ", ") + name + " IS NULL, ifnull(" + name + ", 0)";
+        keys += column.type.isText() ? " COLLATE " + std::string(collationName) : "";
+        anyNull += (anyNull.empty() ? "" : " OR ") + name + " IS NULL";
+    }
+    return quoteName(table.name) + "(" + keys + ") WHERE " + anyNull;
+}
+
 std::string sqliteColumnText(const ColumnDef& column) {
     std::string text = quoteName(column.name);
     if (column.identity) {

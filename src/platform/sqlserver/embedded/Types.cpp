@@ -21,7 +21,7 @@ struct NamedType
 
 // In the order of TypeId, which indexes it.
 constexpr NamedType namedTypes[] = {
-    {"null", TypeId::Null, ""},
+    {"NULL", TypeId::Null, ""},
     {"binary", TypeId::Binary, "BLOB", Measures::Length, 8000},
     {"varbinary", TypeId::VarBinary, "BLOB", Measures::Length, 8000},
     {"image", TypeId::Image, "BLOB"},

@@ -74,8 +74,9 @@ struct Type
     bool isFloat() const { return id == TypeId::Real || id == TypeId::Float; }
     bool isNumber() const { return id >= TypeId::Bit && id <= TypeId::Float; }
     bool isText() const { return (id >= TypeId::Char && id <= TypeId::NVarChar) || isLongText(); }
-    /// text and ntext, which take part in few operations (402, 306).
     bool isLongText() const { return id == TypeId::Text || id == TypeId::NText; }
+    /// False for text, ntext and image, which take part in few operations (402, 306, 421, 8116).
+    bool isComparable() const { return !isLongText() && id != TypeId::Image; }
     bool isWide() const {
         return id == TypeId::NChar || id == TypeId::NVarChar || id == TypeId::NText;
     }

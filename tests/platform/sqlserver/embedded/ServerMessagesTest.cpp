@@ -145,6 +145,56 @@ TEST_F(ServerMessagesTest, namesAndShapes) {
     }
 }
 
+TEST_F(ServerMessagesTest, longTextsAndArgumentsOfTheWrongKind) {
+    ASSERT_EQ(database_.answer("CREATE TABLE Paper (Notes ntext, Old text, Scan image)"
+                               " INSERT INTO Paper VALUES ('n', 'o', 0x41)"),
+              "(-1) (1)");
+    const std::pair<const char*, const char*> rows[] = {
+        {"SELECT 1 FROM Paper WHERE Notes = 'n'",
+         "402 16 The data types ntext and varchar are incompatible in the equal to operator."},
+        {"UPDATE Paper SET Old = '' WHERE N'' <> Old",
+         "402 16 The data types nvarchar and text are incompatible in the not equal to operator."},
+        {"SELECT 1 FROM Paper WHERE Scan IN (0x41)",
+         "402 16 The data types image and varbinary are incompatible in the equal to operator."},
+        {"SELECT Old FROM Paper ORDER BY Notes",
+         "306 16 The text, ntext, and image data types cannot be compared or sorted, except when "
+         "using IS NULL or LIKE operator."},
+        {"SELECT COUNT(*) FROM Paper GROUP BY Old",
+         "306 16 The text, ntext, and image data types cannot be compared or sorted, except when "
+         "using IS NULL or LIKE operator."},
+        {"SELECT DISTINCT Notes FROM Paper",
+         "421 16 The ntext data type cannot be selected as DISTINCT because it is not comparable."},
+        {"SELECT MAX(Notes) FROM Paper",
+         "8117 16 Operand data type ntext is invalid for max operator."},
+        {"SELECT LEN(Notes) FROM Paper",
+         "8116 16 Argument data type ntext is invalid for argument 1 of len function."},
+        {"SELECT LEFT(Old, 1) FROM Paper",
+         "8116 16 Argument data type text is invalid for argument 1 of left function."},
+        {"SELECT REPLACE('a', 'a', Notes) FROM Paper",
+         "8116 16 Argument data type ntext is invalid for argument 3 of replace function."},
+        {"SELECT SUBSTRING(Qty, 1, 1) FROM Item",
+         "8116 16 Argument data type int is invalid for argument 1 of substring function."},
+        {"SELECT SUBSTRING(NULL, 1, 1)",
+         "8116 16 Argument data type NULL is invalid for argument 1 of substring function."},
+        {"SELECT CHARINDEX(Day, Code) FROM Item",
+         "8116 16 Argument data type datetime is invalid for argument 1 of charindex function."},
+        {"SELECT ROUND(1.5, 'two')",
+         "8116 16 Argument data type varchar is invalid for argument 2 of round function."},
+        {"SELECT Code FROM Item WHERE Qty = (SELECT Qty FROM Item)",
+         "512 16 Subquery returned more than 1 value. This is not permitted when the subquery "
+         "follows =, !=, <, <= , >, >= or when the subquery is used as an expression."}};
+    for (const auto& [batch, words] : rows) {
+        EXPECT_EQ(refusal(batch), words) << batch;
+    }
+    EXPECT_EQ(database_.answer("SELECT SUBSTRING(Notes, 1, 1), PATINDEX('%o%', Old),"
+                               " CHARINDEX('n', Notes), DATALENGTH(Scan) FROM Paper"
+                               " WHERE Notes LIKE 'N' AND Old IS NOT NULL"),
+              "n|1|1|1");
+    EXPECT_EQ(database_.answer("SELECT Code, (SELECT Code FROM Item I WHERE I.Qty = T.Qty + 1),"
+                               " (SELECT MAX(Qty) FROM Item I WHERE I.Qty <= T.Qty) FROM Item T"),
+              "A1|A2|1;A2|NULL|2");
+}
+
 TEST_F(ServerMessagesTest, textThatIsNoStatementAndValuesOfTheWrongKind) {
     ASSERT_EQ(database_.answer("CREATE PROCEDURE Asks @a int AS SELECT @a"), "(-1)");
     const std::pair<const char*, const char*> rows[] = {

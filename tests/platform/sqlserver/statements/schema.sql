@@ -208,3 +208,20 @@ SELECT a FROM Twice WHERE
 --> error 102
 SELECT COUNT(*) FROM Twice
 --> 2
+-- One NULL in a unique index
+CREATE TABLE Once (a nvarchar(5), b int) CREATE UNIQUE INDEX Once_u ON Once (a, b) INSERT INTO Once VALUES (NULL, 1), (NULL, 2), ('x', NULL)
+--> (-1) (-1) (3)
+INSERT INTO Once VALUES ('X', NULL)
+--> error 2601
+UPDATE Once SET b = 1 WHERE b = 2
+--> error 2601
+INSERT INTO Once VALUES (NULL, NULL), ('y', NULL), ('y', 1)
+--> (3)
+ALTER TABLE Once ADD CONSTRAINT Once_k UNIQUE (b)
+--> error 1505
+DROP INDEX [Once_u] ON [dbo].[Once] INSERT INTO Once VALUES ('X', NULL)
+--> (-1) (1)
+CREATE UNIQUE INDEX Once_u ON Once (a, b)
+--> error 1505
+SELECT COUNT(*) FROM Once WHERE b IS NULL
+--> 4
