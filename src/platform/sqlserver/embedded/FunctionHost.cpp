@@ -2,6 +2,7 @@
 #include "platform/sqlserver/embedded/Collation.h"
 #include "platform/sqlserver/embedded/FunctionCall.h"
 #include "platform/sqlserver/embedded/SqliteQuery.h"
+#include "platform/sqlserver/embedded/UniqueKey.h"
 
 #include <algorithm>
 #include <chrono>
@@ -35,45 +36,6 @@ void registerAll(sqlite3* database, std::span<const ScalarFunction> functions, F
     }
 }
 
-// "UNIQUE constraint failed: T.A, T.B" names the columns, or with expressions the index, as
-// "index 'T.I'".
-constexpr std::string_view namedIndex = "index '";
-
-std::string_view brokenTable(std::string_view columns) {
-    columns.remove_prefix(columns.starts_with(namedIndex) ? namedIndex.size() : 0);
-    return columns.substr(0, columns.find('.'));
-}
-
-const IndexDef* brokenIndex(const TableDef& table, std::string_view columns) {
-    for (const auto& index : table.indexes) {
-        std::string listed;
-        for (const auto& key : index.keys) {
-            listed += (listed.empty() ? "" : ", ") + table.name + "." +
-                      table.columnById(key.columnId)->name;
-        }
-        const std::string named = std::string(namedIndex) + nullsIndexName(table, index) + "'";
-        if (index.unique && (sameName(listed, columns) || sameName(named, columns))) {
-            return &index;
-        }
-    }
-    return nullptr;
-}
-
-Fault uniqueFault(const Catalogue& catalogue, std::string_view columns) {
-    const auto* table = catalogue.table(brokenTable(columns));
-    if (!table) {
-        return Fault(serverMessage(2627, {"UNIQUE KEY", columns, ""}));
-    }
-    const auto* index = brokenIndex(*table, columns);
-    if (index && !index->isConstraint()) {
-        return Fault(serverMessage(2601, {table->name, index->name}));
-    }
-    const bool primary = !index || index->primaryKey;
-    return Fault(
-        serverMessage(2627, {primary ? "PRIMARY KEY" : "UNIQUE KEY",
-                             index ? std::string_view(index->name) : columns, table->name}));
-}
-
 Fault nullFault(const Catalogue& catalogue, std::string_view column, std::string_view verb) {
     const auto dot = column.find('.');
     return Fault(serverMessage(
@@ -84,7 +46,7 @@ Fault constraintFault(const Catalogue& catalogue, std::string_view text, std::st
     const auto colon = text.find(": ");
     const auto what = colon == std::string_view::npos ? text : text.substr(colon + 2);
     if (text.starts_with("UNIQUE")) {
-        return uniqueFault(catalogue, what);
+        return uniqueFault(text, catalogue);
     }
     if (text.starts_with("NOT NULL")) {
         return nullFault(catalogue, what, verb);

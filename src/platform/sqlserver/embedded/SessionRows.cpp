@@ -2,6 +2,7 @@
 #include "platform/sqlserver/embedded/Errors.h"
 #include "platform/sqlserver/embedded/PlaceNames.h"
 #include "platform/sqlserver/embedded/RowCells.h"
+#include "platform/sqlserver/embedded/UniqueKey.h"
 
 namespace velcro::sql::tsql {
 
@@ -67,11 +68,15 @@ void Session::bind(Prepared& prepared, const Place& place, std::span<const Value
 
 void Session::failStep(Prepared& prepared, int code) {
     auto raised = host_.takeFault();
+    if (raised) {
+        throw Fault(*raised);
+    }
+    const std::string_view said = sqlite3_errmsg(file_.handle.get());
+    if ((code & 0xFF) == SQLITE_CONSTRAINT && said.starts_with("UNIQUE")) {
+        throw uniqueFault(said, catalogue_, prepared.statement.get(), &host_);
+    }
     const std::string& verb = prepared.translation.verb;
-    Fault fault = raised ? *raised
-                         : faultFromSqlite(file_.handle.get(), code, catalogue_,
-                                           verb.empty() ? "SELECT" : verb);
-    throw Fault(fault);
+    throw faultFromSqlite(file_.handle.get(), code, catalogue_, verb.empty() ? "SELECT" : verb);
 }
 
 /// Runs a bound statement to its end; gives the number of its rows, or of those it changed.

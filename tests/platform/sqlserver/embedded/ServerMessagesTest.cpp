@@ -137,11 +137,41 @@ TEST_F(ServerMessagesTest, namesAndShapes) {
          "42S02"},
         {"SET IDENTITY_INSERT Item ON INSERT INTO Item (RecID, Qty) VALUES (1, 1)",
          "2627 14 Violation of PRIMARY KEY constraint 'Item_idx00'. Cannot insert duplicate key in "
-         "object 'dbo.Item'.",
+         "object 'dbo.Item'. The duplicate key value is (1).",
          "23000"}};
     for (const auto& row : rows) {
         EXPECT_EQ(refusal(row.batch), row.refusal) << row.batch;
         EXPECT_EQ(sqlState_, row.sqlState) << row.batch;
+    }
+}
+
+TEST_F(ServerMessagesTest, aKeyThatIsTakenIsNamedWithItsValue) {
+    ASSERT_EQ(database_.answer("CREATE TABLE Pair (A nvarchar(9) NULL, B int NULL, C float NULL,"
+                               " CONSTRAINT Pair_c UNIQUE (C))"
+                               " CREATE UNIQUE INDEX Pair_ab ON Pair (A, B)"
+                               " INSERT INTO Pair VALUES ('O''Neil', 1, 1.5), (NULL, 2, 2)"
+                               " INSERT INTO Item (Code, Qty) VALUES ('A1', 3)"),
+              "(-1) (-1) (2) (1)");
+    const std::string row = "2601 14 Cannot insert duplicate key row in object 'dbo.Pair' with "
+                            "unique index 'Pair_ab'. The duplicate key value is ";
+    const std::pair<std::string, std::string> rows[] = {
+        {"INSERT INTO Pair VALUES ('x', 1, 3), ('o''neil ', 1, 4)", row + "(O'Neil, 1)."},
+        {"INSERT INTO Pair VALUES ('x', 1, 3), ('X', 1, 4)", row + "(x, 1)."},
+        {"INSERT INTO Pair SELECT A, B, C + 7 FROM Pair WHERE A IS NULL", row + "(<NULL>, 2)."},
+        {"UPDATE Pair SET A = NULL, B = 2", row + "(<NULL>, 2)."},
+        {"UPDATE Pair SET C = 1.5 WHERE B = 2",
+         "2627 14 Violation of UNIQUE KEY constraint 'Pair_c'. Cannot insert duplicate key in "
+         "object 'dbo.Pair'. The duplicate key value is (1.5)."},
+        {"CREATE UNIQUE INDEX Item_u ON Item (Code)",
+         "1505 16 The CREATE UNIQUE INDEX statement terminated because a duplicate key was found "
+         "for the object name 'dbo.Item' and the index name 'Item_u'. The duplicate key value is "
+         "(A1)."}};
+    for (const auto& [batch, words] : rows) {
+        EXPECT_EQ(refusal(batch), words) << batch;
+        EXPECT_EQ(refusal("BEGIN TRAN " + batch), words) << batch;
+        EXPECT_EQ(database_.answer("SELECT @@TRANCOUNT ROLLBACK SELECT A, B, C FROM Pair"),
+                  "1 O'Neil|1|1.5;NULL|2|2")
+            << batch;
     }
 }
 
