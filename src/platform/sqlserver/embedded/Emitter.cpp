@@ -7,7 +7,7 @@
 namespace velcro::sql::tsql {
 
 Translation Emitter::select(const Select& statement) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     QueryText rows = query(*statement.query, nullptr, false);
     Translation result = finish(with + rows.text, {}, std::move(rows.columns));
     if (result.assigns) {
@@ -21,7 +21,7 @@ Translation Emitter::select(const Select& statement) {
 }
 
 Translation Emitter::view(const Select& statement, std::span<const std::string> names) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     QueryText rows = query(*statement.query, nullptr, true, names);
     return finish(with + rows.text, {}, std::move(rows.columns));
 }

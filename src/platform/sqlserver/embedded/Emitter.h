@@ -166,11 +166,11 @@ private:
     QueryText compound(const Query& query, const Scope* outer, bool nested,
                        std::span<const std::string> names);
     void flatten(const QueryBody& body, const Scope* outer, const char* sign,
-                 std::vector<std::pair<const char*, Core>>& parts);
+                 std::vector<std::pair<const char*, Core>>& parts, const Recursion& recursion);
     static Core wrapped(QueryText rows);
     std::string compoundOrder(const std::vector<OrderItem>& order,
                               const std::vector<ResultColumn>& columns);
-    std::string withText(const std::vector<CommonTable>& tables);
+    std::string withText(const std::vector<CommonTable>& tables, const QueryHints& hints);
     std::vector<SourceColumn> anchorColumns(const CommonTable& table);
 
     // EmitterFrom.cpp
@@ -232,6 +232,7 @@ private:
     std::vector<Bind> binds_;
     std::vector<CommonTableInfo> commonTables_;
     std::vector<GroupCheck> groups_;
+    Recursion recursion_; // of the common table whose query comes next
     int aggregateDepth_ = 0;
     int line_ = 0;
 };

@@ -6,6 +6,8 @@
 #include "platform/sqlserver/embedded/SqliteText.h"
 
 #include <algorithm>
+#include <charconv>
+#include <utility>
 
 namespace velcro::sql::tsql {
 
@@ -22,6 +24,68 @@ const char* signOf(SetOperator op) {
     default:
         return " INTERSECT ";
     }
+}
+
+/// The alias under which a FROM names the table; blank when it does not.
+std::string aliasOf(std::string_view table, const TableSource& source) {
+    if (const auto* named = std::get_if<NamedTable>(&source.node)) {
+        const bool isIt = named->name.schema.empty() && sameName(named->name.name, table);
+        return !isIt ? "" : named->alias.empty() ? named->name.name : named->alias;
+    }
+    const auto* join = std::get_if<Join>(&source.node);
+    const std::string left = join != nullptr ? aliasOf(table, *join->left) : "";
+    return join == nullptr || !left.empty() ? left : aliasOf(table, *join->right);
+}
+
+std::string aliasOf(std::string_view table, const SelectCore& select) {
+    for (const auto& source : select.from) {
+        if (const auto alias = aliasOf(table, *source); !alias.empty()) {
+            return alias;
+        }
+    }
+    return {};
+}
+
+bool namesItself(const QueryBody& body, std::string_view table) {
+    const auto* operation = std::get_if<SetOperation>(&body.node);
+    if (operation == nullptr) {
+        return !aliasOf(table, std::get<SelectCore>(body.node)).empty();
+    }
+    return operation->op == SetOperator::UnionAll &&
+           (namesItself(*operation->left, table) || namesItself(*operation->right, table));
+}
+
+int recursionLimit(const QueryHints& hints) {
+    constexpr std::string_view word = "MAXRECURSION ";
+    constexpr int most = 32767;
+    int limit = Recursion().limit;
+    for (const std::string_view hint : hints) {
+        if (!hint.starts_with(word)) {
+            continue;
+        }
+        const auto written = hint.substr(word.size());
+        const auto read = std::from_chars(written.data(), written.data() + written.size(), limit);
+        if (read.ec != std::errc() || limit > most) {
+            raise(310, {written});
+        }
+    }
+    return limit;
+}
+
+constexpr std::string_view levelColumn = "sys$level";
+
+/// How deep a row of a recursive table lies. SQLite would go on for ever where rows lead to each
+/// other in a circle; the server counts.
+std::string levelText(const std::string& alias, int limit) {
+    if (alias.empty()) {
+        return "0";
+    }
+    const std::string above = quoteName(alias) + "." + quoteName(levelColumn);
+    const std::string next = above + " + 1";
+    const std::string most = std::to_string(limit);
+    return limit == 0 ? next
+                      : "CASE WHEN " + above + " < " + most + " THEN " + next +
+                            " ELSE ts_raise(530, '" + most + "') END";
 }
 
 const QueryBody& firstBody(const QueryBody& body) {
@@ -44,11 +108,12 @@ Emitter::Core Emitter::wrapped(QueryText rows) {
 }
 
 void Emitter::flatten(const QueryBody& body, const Scope* outer, const char* sign,
-                      std::vector<std::pair<const char*, Core>>& parts) {
+                      std::vector<std::pair<const char*, Core>>& parts,
+                      const Recursion& recursion) {
     if (const auto* operation = std::get_if<SetOperation>(&body.node)) {
-        flatten(*operation->left, outer, sign, parts);
+        flatten(*operation->left, outer, sign, parts, recursion);
         const auto before = parts.size();
-        flatten(*operation->right, outer, signOf(operation->op), parts);
+        flatten(*operation->right, outer, signOf(operation->op), parts, recursion);
         if (parts.size() > before + 1) {
             raiseUnsupported("a UNION inside brackets on the right of another", line_);
         }
@@ -57,6 +122,10 @@ void Emitter::flatten(const QueryBody& body, const Scope* outer, const char* sig
     const auto& select = std::get<SelectCore>(body.node);
     std::string none;
     Core part = core(select, outer, nullptr, none);
+    if (!recursion.table.empty()) {
+        const auto level = levelText(aliasOf(recursion.table, select), recursion.limit);
+        part.items.push_back({std::string(levelColumn), {level, intType, false, {}}, {}});
+    }
     if (select.top) {
         const Scope empty;
         const std::string limit = limitText(&select, Query{}, empty);
@@ -70,7 +139,7 @@ void Emitter::flatten(const QueryBody& body, const Scope* outer, const char* sig
 Emitter::QueryText Emitter::compound(const Query& query, const Scope* outer, bool nested,
                                      std::span<const std::string> names) {
     std::vector<std::pair<const char*, Core>> parts;
-    flatten(*query.body, outer, "", parts);
+    flatten(*query.body, outer, "", parts, std::exchange(recursion_, {}));
     std::vector<Type> types;
     for (const auto& item : parts[0].second.items) {
         types.push_back(item.value.type);
@@ -145,10 +214,14 @@ std::vector<SourceColumn> Emitter::anchorColumns(const CommonTable& table) {
     return columns;
 }
 
-std::string Emitter::withText(const std::vector<CommonTable>& tables) {
+std::string Emitter::withText(const std::vector<CommonTable>& tables, const QueryHints& hints) {
+    const int limit = recursionLimit(hints);
     std::string text;
     for (const auto& table : tables) {
         commonTables_.push_back({table.name, anchorColumns(table)});
+        if (namesItself(*table.query->body, table.name)) {
+            recursion_ = {table.name, limit};
+        }
         const QueryText rows = query(*table.query, nullptr, true, table.columns);
         text += text.empty() ? "WITH RECURSIVE " : ", ";
         text += quoteName(table.name) + " AS (" + rows.text + ")";

@@ -61,7 +61,7 @@ Translation Emitter::insert(const Insert& statement) {
     if (statement.top) {
         raiseUnsupported("INSERT TOP", line_);
     }
-    std::string text = withText(statement.with);
+    std::string text = withText(statement.with, statement.hints);
     if (statement.rows.empty() && !statement.query) {
         text += "INSERT INTO " + quoteName(table.name) + " DEFAULT VALUES";
     } else {

@@ -62,7 +62,7 @@ Translation Emitter::mergeChange(const MergeWhen& when, const Source& target, co
 }
 
 Translation Emitter::mergeMatched(const Merge& statement, const MergeWhen& when) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     Scope scope;
     std::string from = " FROM " + emitSource(statement.target, scope);
     const Source& target = targetOf({{}, {}, {}, targetAlias(statement)}, scope, from);
@@ -75,7 +75,7 @@ Translation Emitter::mergeMatched(const Merge& statement, const MergeWhen& when)
 }
 
 Translation Emitter::mergeBySource(const Merge& statement, const MergeWhen& when) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     Scope scope;
     std::string from = " FROM " + emitSource(statement.target, scope);
     const Source& target = targetOf({{}, {}, {}, targetAlias(statement)}, scope, from);
@@ -90,7 +90,7 @@ Translation Emitter::mergeBySource(const Merge& statement, const MergeWhen& when
 }
 
 Translation Emitter::mergeInsert(const Merge& statement, const MergeWhen& when) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     const TableDef& table = requireTable(statement.target.name);
     const auto columns = insertColumns(when.columns, table);
     if (columns.size() != when.values.size()) {

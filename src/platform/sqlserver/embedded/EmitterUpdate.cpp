@@ -56,7 +56,7 @@ std::string Emitter::returningVariables(const std::vector<ResultColumn>& variabl
 }
 
 Translation Emitter::update(const Update& statement) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     if (statement.from.empty() && with.empty()) {
         return updatePlain(statement, requireTable(statement.target));
     }
@@ -147,7 +147,7 @@ std::string Emitter::removeText(const TableDef& table, const std::string& alias,
 }
 
 Translation Emitter::remove(const Delete& statement) {
-    const std::string with = withText(statement.with);
+    const std::string with = withText(statement.with, statement.hints);
     Scope scope;
     std::string from = fromText(statement.from, scope);
     const bool plain = statement.from.empty() && !statement.top;

@@ -28,6 +28,13 @@ struct Source
     const TableDef* table = nullptr; // set for stored tables alone
 };
 
+/// A common table that names itself, and how often it may; blank for one that does not.
+struct Recursion
+{
+    std::string table;
+    int limit = 100; // 0: no limit
+};
+
 struct CommonTableInfo
 {
     std::string name;

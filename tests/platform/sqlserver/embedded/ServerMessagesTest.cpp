@@ -210,6 +210,16 @@ TEST_F(ServerMessagesTest, longTextsAndArgumentsOfTheWrongKind) {
          "8116 16 Argument data type datetime is invalid for argument 1 of charindex function."},
         {"SELECT ROUND(1.5, 'two')",
          "8116 16 Argument data type varchar is invalid for argument 2 of round function."},
+        {"WITH c AS (SELECT 1 n UNION ALL SELECT n + 1 FROM c) SELECT n FROM c",
+         "530 16 The statement terminated. The maximum recursion 100 has been exhausted before "
+         "statement completion."},
+        {"WITH c (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c AS d WHERE n < 5)"
+         " SELECT * FROM c OPTION (MAXRECURSION 3)",
+         "530 16 The statement terminated. The maximum recursion 3 has been exhausted before "
+         "statement completion."},
+        {"WITH c AS (SELECT 1 n) SELECT n FROM c OPTION (MAXRECURSION 40000)",
+         "310 15 The value 40000 specified for the MAXRECURSION option exceeds the allowed maximum "
+         "of 32767."},
         {"SELECT Code FROM Item WHERE Qty = (SELECT Qty FROM Item)",
          "512 16 Subquery returned more than 1 value. This is not permitted when the subquery "
          "follows =, !=, <, <= , >, >= or when the subquery is used as an expression."}};
@@ -220,6 +230,11 @@ TEST_F(ServerMessagesTest, longTextsAndArgumentsOfTheWrongKind) {
                                " CHARINDEX('n', Notes), DATALENGTH(Scan) FROM Paper"
                                " WHERE Notes LIKE 'N' AND Old IS NOT NULL"),
               "n|1|1|1");
+    EXPECT_EQ(database_.answer("WITH c (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c"
+                               " WHERE n < 101) SELECT COUNT(*), MAX(n) FROM c"
+                               " WITH c AS (SELECT 1 n UNION ALL SELECT n + 1 FROM c WHERE n < 300)"
+                               " SELECT COUNT(*) FROM c OPTION (MAXRECURSION 0)"),
+              "101|101 300");
     EXPECT_EQ(database_.answer("SELECT Code, (SELECT Code FROM Item I WHERE I.Qty = T.Qty + 1),"
                                " (SELECT MAX(Qty) FROM Item I WHERE I.Qty <= T.Qty) FROM Item T"),
               "A1|A2|1;A2|NULL|2");
@@ -249,5 +264,30 @@ TEST_F(ServerMessagesTest, textThatIsNoStatementAndValuesOfTheWrongKind) {
         {"SELECT CAST('dear' AS float)", "8114 16 Error converting data type varchar to float."}};
     for (const auto& [batch, words] : rows) {
         EXPECT_EQ(refusal(batch), words) << batch;
+    }
+}
+
+TEST_F(ServerMessagesTest, statesAndLines) {
+    ASSERT_EQ(database_.answer("CREATE PROCEDURE Asks @a int AS SELECT @a"), "(-1)");
+    const std::pair<const char*, int> rows[] = {{"SELECT Code FROM Item WHERE )", 1},
+                                                {"SELECT FROM Item", 1},
+                                                {"EXEC Asks", 4},
+                                                {"SELECT Nope FROM Item", 1},
+                                                {"INSERT INTO Item VALUES ('a')", 1},
+                                                {"UPDATE Item SET Qty = 'x1'", 1},
+                                                {"UPDATE Item SET Qty = NULL", 2},
+                                                {"CREATE TABLE Item (a int)", 6},
+                                                {"ALTER TABLE Item ADD CODE int", 4},
+                                                {"EXEC Nowhere", 62},
+                                                {"DROP TABLE Nope", 5},
+                                                {"SELECT CAST('dear' AS float)", 5}};
+    for (const auto& [batch, state] : rows) {
+        try {
+            database_.connection().execute(std::string("SET NOCOUNT ON\r\n\r\n") + batch);
+            ADD_FAILURE() << batch;
+        } catch (const SqlError& error) {
+            EXPECT_EQ(error.message().state, state) << batch;
+            EXPECT_EQ(error.message().line, 3) << batch;
+        }
     }
 }

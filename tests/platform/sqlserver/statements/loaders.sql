@@ -84,3 +84,7 @@ WITH nopC AS ( SELECT [CategoryId], CAST([Name] AS nvarchar(max)) AS [path]   FR
 --> 9|Art;5|Tools;6|Tools -> Drills;7|Tools -> Drills -> Bits
 WITH nopC AS ( SELECT [CategoryId], CAST([Name] AS nvarchar(max)) AS [path]   FROM WooCategories WITH (NOLOCK)  WHERE [AppID] = '1'    AND [Parent] = 0 UNION ALL SELECT T1.[CategoryId], CAST(nopC.[path] + ' -> ' + T1.[Name] AS nvarchar(max))   FROM WooCategories T1 WITH (NOLOCK)   JOIN nopC ON T1.[Parent] = nopC.[CategoryId]  WHERE T1.[AppID] = '1' ) SELECT [CategoryId], [path] FROM nopC WHERE [CategoryId] = '6' ORDER BY [path]
 --> 6|Tools -> Drills
+UPDATE WooCategories SET Parent = 7 WHERE CategoryId = 5 INSERT INTO WooCategories VALUES (1, 10, 0, 'Root'), (1, 5, 10, 'Tools again')
+--> (1) (2)
+WITH nopC AS ( SELECT [CategoryId], CAST([Name] AS nvarchar(max)) AS [path]   FROM WooCategories WITH (NOLOCK)  WHERE [AppID] = '1'    AND [Parent] = 0 UNION ALL SELECT T1.[CategoryId], CAST(nopC.[path] + ' -> ' + T1.[Name] AS nvarchar(max))   FROM WooCategories T1 WITH (NOLOCK)   JOIN nopC ON T1.[Parent] = nopC.[CategoryId]  WHERE T1.[AppID] = '1' ) SELECT [CategoryId], [path] FROM nopC ORDER BY [path]
+--> error 530

@@ -225,3 +225,8 @@ CREATE UNIQUE INDEX Once_u ON Once (a, b)
 --> error 1505
 SELECT COUNT(*) FROM Once WHERE b IS NULL
 --> 4
+-- Names with their database
+SELECT COUNT(*) FROM Shop.dbo.Once WHERE b IS NULL
+--> 4
+SELECT COUNT(*) FROM [Other].dbo.Once
+--> error 208
