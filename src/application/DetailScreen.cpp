@@ -5,6 +5,7 @@
 #include "data/StatementText.h"
 #include "ui/DateEdit.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -45,6 +46,14 @@ DetailScreen::DetailScreen(const QString& unit, const QString& caption, const QS
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(pnlMain);
     body().addWidget(area, 1);
+    // On a small screen the control that is worked in scrolls into sight, however it got there.
+    connectHandler(qApp, &QApplication::focusChanged, this, [this, area](QWidget*, QWidget* now) {
+        if (now != nullptr && pnlMain->isAncestorOf(now)) {
+            const QRect control(now->mapTo(pnlMain, QPoint()), now->size());
+            area->ensureVisible(control.center().x(), control.center().y(),
+                                control.width() / 2 + margin, control.height() / 2 + margin);
+        }
+    });
     makeButtons(saveCaption);
     bindKey(Qt::Key_F10, btnSave);
     bindKey(Qt::Key_Escape, btnCancel);

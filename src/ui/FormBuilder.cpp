@@ -18,6 +18,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <map>
 
 namespace velcro::ui {
 
@@ -27,6 +28,7 @@ constexpr int spacing = 6;
 constexpr int margin = 10;
 constexpr int frameWidth = 20; // of an edit, left and right of its letters
 constexpr int arrowWidth = 36;
+constexpr int narrowestEdit = 10; // letters
 
 /// Corrects what goes into an edit, typed or pasted.
 class Letters : public QValidator
@@ -64,8 +66,28 @@ private:
     bool upperCase_;
 };
 
+int widthOf(const QWidget& widget, int letters) {
+    return widget.fontMetrics().averageCharWidth() * letters + frameWidth;
+}
+
+/// As wide as it wants to be where there is room, and narrower on a small screen.
+template <typename Control>
+class Yielding : public Control
+{
+public:
+    void setWidths(int narrowest, int wanted) {
+        this->setMinimumWidth(std::min(narrowest, wanted));
+        this->setMaximumWidth(wanted);
+        wanted_ = wanted;
+    }
+    QSize sizeHint() const override { return {wanted_, Control::sizeHint().height()}; }
+
+private:
+    int wanted_ = 0;
+};
+
 /// A long text shows its beginning while nobody works in it.
-class TextEdit : public QLineEdit
+class TextEdit : public Yielding<QLineEdit>
 {
 public:
     TextEdit() {
@@ -86,10 +108,6 @@ protected:
         }
     }
 };
-
-int widthOf(const QWidget& widget, int letters) {
-    return widget.fontMetrics().averageCharWidth() * letters + frameWidth;
-}
 
 // "Order Date:" and "&Search" are spoken without their marks.
 QString spoken(const QString& label) {
@@ -163,6 +181,7 @@ void FormBuilder::place(QWidget* widget, const QString& label) {
         auto* text = new QLabel(label, owner_);
         text->setBuddy(widget);
         grid_->addWidget(text, row_, column_);
+        labels_.push_back({text, grid_, column_});
         grid_->addWidget(widget, row_, column_ + 1, Qt::AlignLeft);
     }
     // What is left of the row goes behind its last control.
@@ -185,7 +204,7 @@ void FormBuilder::control(QWidget* widget, const QString& name, const QString& l
 QLineEdit* FormBuilder::edit(const QString& name, const QString& label,
                              const EditOptions& options) {
     auto* edit = new TextEdit;
-    edit->setFixedWidth(widthOf(*edit, options.width));
+    edit->setWidths(widthOf(*edit, narrowestEdit), widthOf(*edit, options.width));
     edit->setPlaceholderText(options.emptyText);
     edit->setReadOnly(options.readOnly);
     if (options.limit > 0) {
@@ -201,7 +220,7 @@ QLineEdit* FormBuilder::edit(const QString& name, const QString& label,
 
 DateEdit* FormBuilder::date(const QString& name, const QString& label) {
     auto* edit = new DateEdit;
-    edit->setFixedWidth(widthOf(*edit, 13));
+    edit->setFixedWidth(widthOf(*edit, 11));
     control(edit, name, label);
     auto* button = buttonAfter(edit, QStringLiteral("btn") + name.mid(2),
                                edit->accessibleName() + QStringLiteral(" calendar"),
@@ -212,9 +231,10 @@ DateEdit* FormBuilder::date(const QString& name, const QString& label) {
 
 QComboBox* FormBuilder::combo(const QString& name, const QString& label, const QStringList& entries,
                               int width) {
-    auto* combo = new QComboBox;
+    auto* combo = new Yielding<QComboBox>;
     combo->addItems(entries);
-    combo->setFixedWidth(widthOf(*combo, width) + arrowWidth);
+    combo->setWidths(widthOf(*combo, narrowestEdit) + arrowWidth,
+                     widthOf(*combo, width) + arrowWidth);
     control(combo, name, label);
     return combo;
 }
@@ -275,7 +295,20 @@ QToolButton* FormBuilder::browseButton(QLineEdit* edit) {
                        QStringLiteral("search"));
 }
 
+// The controls of groups below each other begin at one line.
+void FormBuilder::alignLabels() {
+    std::map<int, int> widest;
+    for (const auto& [label, grid, column] : labels_) {
+        label->ensurePolished();
+        widest[column] = std::max(widest[column], label->sizeHint().width());
+    }
+    for (const auto& [label, grid, column] : labels_) {
+        grid->setColumnMinimumWidth(column, widest[column]);
+    }
+}
+
 void FormBuilder::stretch() {
+    alignLabels();
     rows_->addStretch(1);
 }
 

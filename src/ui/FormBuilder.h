@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <vector>
+
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
@@ -69,9 +71,18 @@ private:
     QToolButton* buttonAfter(QLineEdit* edit, const QString& name, const QString& accessibleName,
                              const QString& icon);
     void place(QWidget* widget, const QString& label);
+    void alignLabels();
+
+    struct Label
+    {
+        QWidget* label;
+        QGridLayout* grid;
+        int column;
+    };
 
     QWidget* page_;
     QVBoxLayout* rows_;
+    std::vector<Label> labels_;
     QHBoxLayout* groups_ = nullptr; // the groups that stand beside each other
     QWidget* owner_ = nullptr;
     QGridLayout* grid_ = nullptr;

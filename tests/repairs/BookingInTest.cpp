@@ -2,6 +2,8 @@
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
 #include "data/Session.h"
+#include "lookups/CRO900.h"
+#include "lookups/CRO910.h"
 #include "repairs/BookingDesk.h"
 #include "repairs/CRO100.h"
 #include "support/ScreenChecks.h"
@@ -345,6 +347,7 @@ TEST_F(BookingInTest, enterAndTabGoThroughTheHeaderInTheOrderThatIsSeen) {
         "edCellphone", "edTelephone1", "edTelephone2",  "edEMail",
     };
     show(1, {}, [&] {
+        user.form().resize(683, 512); // and on a small screen scrolls to where the user is
         for (const auto key : {Qt::Key_Tab, Qt::Key_Return}) {
             user.find<QWidget>("edReference").setFocus();
             QStringList visited = {user.focus()};
@@ -354,6 +357,9 @@ TEST_F(BookingInTest, enterAndTabGoThroughTheHeaderInTheOrderThatIsSeen) {
                 }
                 user.press(key);
                 visited.append(user.focus());
+                const QWidget& at = user.find<QWidget>(user.focus());
+                EXPECT_EQ(at.visibleRegion().boundingRect(), at.rect())
+                    << user.focus().toStdString() << " is not in sight";
             }
             EXPECT_EQ(visited, order) << visited.join(' ').toStdString();
         }
@@ -391,4 +397,29 @@ TEST_F(BookingInTest, scannedTextAndDatesOfManyShapesArriveWhole) {
     EXPECT_EQ(column("100501", "TranDate"), "2026/01/31");
     EXPECT_EQ(column("100501", "ReceiveDate"), "2026/02/28");
     EXPECT_EQ(column("100501", "Account"), "C00002");
+}
+
+// 1024 x 768 at 100, 125 and 150 %, and a large screen.
+TEST_F(BookingInTest, theScreensFitEverySeat) {
+    const QSize sizes[] = {{1024, 768}, {819, 614}, {683, 512}, {1920, 1080}};
+    for (const QSize size : sizes) {
+        TfrmCRO100 orders;
+        TfrmCRO100A header;
+        TfrmCRO900 debtors;
+        TfrmCRO910 serials;
+        header.xFunction = 2;
+        header.xRecID = recID("100300");
+        for (QDialog* screen : {static_cast<QDialog*>(&orders), static_cast<QDialog*>(&header),
+                                static_cast<QDialog*>(&debtors), static_cast<QDialog*>(&serials)}) {
+            screen->resize(size);
+            user.workIn(*screen, [&] {
+                const QString name = screen->windowTitle() + QString(" %1").arg(size.width());
+                EXPECT_EQ(screen->size(), size) << name.toStdString();
+                EXPECT_EQ(clippedControls(*screen).join("\n").toStdString(), "")
+                    << name.toStdString();
+                keepPicture(*screen, name.section(": ", 1));
+                user.press(Qt::Key_Escape);
+            });
+        }
+    }
 }

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QWidget>
 
 namespace {
@@ -79,6 +80,19 @@ QStringList namelessControls(QWidget& screen) {
     return nameless;
 }
 
+namespace {
+
+// What a scroll area holds may be higher than it is, but not wider: nobody scrolls sideways.
+bool liesInParent(const QWidget& widget) {
+    const auto* parent = widget.parentWidget();
+    if (qobject_cast<const QScrollArea*>(parent->parentWidget()) != nullptr) {
+        return widget.width() <= parent->width();
+    }
+    return parent->rect().contains(widget.geometry());
+}
+
+} // namespace
+
 QStringList clippedControls(QWidget& screen) {
     QStringList clipped;
     for (auto* widget : screen.findChildren<QWidget*>()) {
@@ -88,7 +102,7 @@ QStringList clippedControls(QWidget& screen) {
         if (!textFits(*widget)) {
             clipped << described(*widget) + QStringLiteral(": text is cut off");
         }
-        if (!widget->parentWidget()->rect().contains(widget->geometry())) {
+        if (!liesInParent(*widget)) {
             clipped << described(*widget) + QStringLiteral(": sticks out of its parent");
         }
         for (auto* sibling : widget->parentWidget()->findChildren<QWidget*>(
