@@ -79,6 +79,9 @@ void DetailScreen::makeButtons(const QString& saveCaption) {
     row->addSpacing(2 * margin);
     row->addWidget(btnSave);
     body().addLayout(row);
+    // Enter that leads through the edits ends on the save and presses it.
+    setTabOrder(btnSave, btnCancel);
+    btnSave->installEventFilter(this);
 }
 
 void DetailScreen::FormShow() {
@@ -187,9 +190,18 @@ bool DetailScreen::eventFilter(QObject* watched, QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
             key->modifiers().testFlag(Qt::ControlModifier) == false) {
-            focusNextChild();
+            enterPressed(watched);
             return true;
         }
     }
     return Screen::eventFilter(watched, event);
+}
+
+// A delete wants its own key: the Enter after the one that asked for it comes too easily.
+void DetailScreen::enterPressed(const QObject* control) {
+    if (control != btnSave) {
+        focusNextChild();
+    } else if (!deleting()) {
+        btnSave->click();
+    }
 }

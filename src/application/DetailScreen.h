@@ -66,6 +66,7 @@ private:
     void makeButtons(const QString& saveCaption);
     void btnSaveClick();
     void collect();
+    void enterPressed(const QObject* control);
     void watchDates();
     bool datesCanBeRead();
 

@@ -35,6 +35,7 @@ Screen::Screen(const QString& unit, const QString& caption, QWidget* parent)
     makeStatusBar();
     whole->addWidget(statusBar_);
     resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(largestSize));
+    create(); // winId() by itself would give every control of the parent a window of its own
     inSystemMenu_ = velcro::seat::appendToSystemMenu(winId(), techHelpCommand,
                                                      QStringLiteral("Technical Reference"));
 }

@@ -9,7 +9,8 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTableWidget>
+#include <QStandardItemModel>
+#include <QWidget>
 
 namespace {
 
@@ -102,15 +103,14 @@ void sfg_InitGlobalVars(const QString& programFile) {
     makeFolders();
 }
 
+// Nobody ever sees them, so they have rows and columns but no controls, which would hold up the start.
 void sfvel_InitSystem(QWidget& mainForm) {
     for (const HiddenGrid& hidden : hiddenGrids()) {
-        auto* grid = new QTableWidget(2, int(hidden.columns.size()), &mainForm);
+        auto* grid = new QStandardItemModel(2, int(hidden.columns.size()), &mainForm);
         grid->setObjectName(QLatin1String(hidden.name));
-        grid->hide();
         for (std::size_t column = 0; column < hidden.columns.size(); ++column) {
             // The first row is the fixed one and holds the titles.
-            grid->setItem(0, int(column),
-                          new QTableWidgetItem(QLatin1String(hidden.columns[column])));
+            grid->setItem(0, int(column), new QStandardItem(QLatin1String(hidden.columns[column])));
         }
     }
 }

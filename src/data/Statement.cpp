@@ -2,12 +2,28 @@
 
 #include "data/Errors.h"
 
-#include <QRegularExpression>
-
 #include <utility>
 
 using velcro::sql::ColumnType;
 using velcro::sql::RowSet;
+
+namespace {
+
+/// Whether the text holds :Name, and not as the beginning of a longer name.
+bool holdsMark(const QString& text, const QString& name) {
+    const QString mark = QLatin1Char(':') + name;
+    for (auto at = text.indexOf(mark, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(mark, at + 1, Qt::CaseInsensitive)) {
+        const auto end = at + mark.size();
+        if (end == text.size() ||
+            !(text[end].isLetterOrNumber() || text[end] == QLatin1Char('_'))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 QString cellText(const RowSet& rows, std::size_t row, std::size_t column) {
     const auto type = rows.column(column).type;
@@ -215,10 +231,7 @@ BoundValue Statement::ParamByName(const QString& name) {
             return BoundValue(parameter);
         }
     }
-    const QRegularExpression mark(QLatin1Char(':') + QRegularExpression::escape(name) +
-                                      QLatin1String("\\b"),
-                                  QRegularExpression::CaseInsensitiveOption);
-    if (use_ == Use::Reader || !SQL.Text().contains(mark)) {
+    if (use_ == Use::Reader || !holdsMark(SQL.Text(), name)) {
         throw VelmaraError(QStringLiteral("Parameter '%1' not found").arg(name));
     }
     parameters_.push_back({name.toStdString(), std::monostate{}});

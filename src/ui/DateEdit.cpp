@@ -49,7 +49,9 @@ bool DateEdit::isAcceptable() const {
 
 bool DateEdit::tidy() {
     if (const auto typed = date(); typed.isValid()) {
-        setDate(typed);
+        if (text() != dateText(typed)) { // or cursor and selection would jump
+            setDate(typed);
+        }
     } else if (!isAcceptable()) {
         emit dateRefused(text());
         return false;

@@ -99,6 +99,13 @@ public:
     }
 
 protected:
+    // Sent here by the program, the user goes on where the text ends. Tab selects it all.
+    void focusInEvent(QFocusEvent* event) override {
+        QLineEdit::focusInEvent(event);
+        if (event->reason() == Qt::OtherFocusReason) {
+            end(false);
+        }
+    }
     void focusOutEvent(QFocusEvent* event) override {
         QLineEdit::focusOutEvent(event);
         // A menu or another program takes the focus for a while only.

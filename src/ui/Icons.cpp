@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 /// Pictures of a static library are known only once they are asked for.
@@ -65,9 +66,29 @@ QIcon icon(const QString& name, const QColor& color) {
     });
 }
 
+// Drawn once for each size, since a form repaints its background again and again.
 void paintPicture(QPainter& painter, const QString& name, const QRectF& rect,
                   Qt::AspectRatioMode fit) {
-    render(painter, source(name), rect, fit);
+    const qreal scale = painter.device()->devicePixelRatio();
+    const QSize pixels = (rect.size() * scale).toSize();
+    const QString key = QStringLiteral("%1 %2x%3 %4 %5")
+                            .arg(name)
+                            .arg(pixels.width())
+                            .arg(pixels.height())
+                            .arg(scale)
+                            .arg(int(fit));
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(pixels);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::transparent);
+        QPainter drawing(&picture);
+        drawing.setRenderHint(QPainter::Antialiasing);
+        render(drawing, source(name), QRectF(QPointF(), rect.size()), fit);
+        drawing.end();
+        QPixmapCache::insert(key, picture);
+    }
+    painter.drawPixmap(rect.topLeft(), picture);
 }
 
 } // namespace velcro::ui

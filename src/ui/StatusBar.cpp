@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace velcro::ui {
 
@@ -29,7 +30,9 @@ int StatusBar::addPanel(PanelStyle style, const QString& text, int width) {
 }
 
 void StatusBar::setPanelStyle(int panel, PanelStyle style) {
-    panels_.at(panel).style = style;
+    if (std::exchange(panels_.at(panel).style, style) == style) {
+        return;
+    }
     speak();
     update();
 }

@@ -56,6 +56,17 @@ TEST_F(FormBuilderTest, TabGoesInReadingOrder) {
     EXPECT_EQ(visited, QStringList({"edCode", "edDate", "cmbHow"}));
 }
 
+TEST_F(FormBuilderTest, ALongTextShowsItsBeginningAndIsTypedOnAtItsEnd) {
+    edDate->setFocus();
+    edCode->setText("ABCDE");
+    EXPECT_EQ(edCode->cursorPosition(), 0);
+    edCode->setFocus();
+    QTest::keyClick(edCode, Qt::Key_Backspace);
+    EXPECT_EQ(edCode->text(), "ABCD");
+    QTest::keyClick(edCode, Qt::Key_Tab);
+    EXPECT_EQ(edCode->cursorPosition(), 0);
+}
+
 TEST_F(FormBuilderTest, UpperCaseAndLimitHoldForTypedAndPastedText) {
     QTest::keyClicks(edCode, "ab9");
     edCode->insert("éßyz");
