@@ -230,3 +230,14 @@ SELECT COUNT(*) FROM Shop.dbo.Once WHERE b IS NULL
 --> 4
 SELECT COUNT(*) FROM [Other].dbo.Once
 --> error 208
+-- A column and the default that holds it
+CREATE TABLE Held (a int, b int CONSTRAINT Held_b DEFAULT 7 NOT NULL)
+--> (-1)
+ALTER TABLE [dbo].[Held]  DROP COLUMN [b]  ;
+--> error 5074
+ALTER TABLE dbo.Held DROP CONSTRAINT Held_b ;
+--> (-1)
+ALTER TABLE [dbo].[Held]  DROP COLUMN [b]  ;
+--> (-1)
+SELECT COLUMN_NAME FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'Held'
+--> a
