@@ -85,11 +85,13 @@ struct StatementText : QueryText
     std::string operator()(const TruncateTable& node) const {
         return "TRUNCATE TABLE " + object(node.table);
     }
+    /// Where no brackets may stand.
+    std::string constant(const ExprPtr& value) const {
+        const auto* sign = std::get_if<Unary>(&value->node);
+        return sign ? std::string(unaryOps[int(sign->op)]) + of(sign->operand) : of(value);
+    }
     std::string argument(const Argument& argument) const {
-        const auto* sign = std::get_if<Unary>(&argument.value->node);
-        const std::string value =
-            sign ? std::string(unaryOps[int(sign->op)]) + of(sign->operand) : of(argument.value);
-        return (argument.name.empty() ? "" : argument.name + " = ") + value +
+        return (argument.name.empty() ? "" : argument.name + " = ") + constant(argument.value) +
                (argument.output ? " OUTPUT" : "");
     }
     std::string operator()(const Execute& node) const {
@@ -224,7 +226,7 @@ struct StatementText : QueryText
                joined(node.parameters,
                       [this](const ProcedureParameter& entry) {
                           return entry.name + " " + type(entry.type) +
-                                 optional(" = ", entry.defaultValue) +
+                                 (entry.defaultValue ? " = " + constant(entry.defaultValue) : "") +
                                  (entry.output ? " OUTPUT" : "");
                       }) +
                " AS " + statements(node.statements);

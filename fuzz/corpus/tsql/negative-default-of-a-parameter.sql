@@ -1,0 +1,1 @@
+CREATE PROC p @a int = -0 AS RETURN @a
