@@ -2,6 +2,7 @@
 
 #include "platform/sqlserver/embedded/Collation.h"
 #include "platform/sqlserver/embedded/Errors.h"
+#include "platform/sqlserver/embedded/SqliteQuery.h"
 
 #include <algorithm>
 #include <limits>
@@ -52,9 +53,18 @@ Fetched fetch(const Bind& bind, const BindSources& sources) {
     }
 }
 
+/// What is not bound would be NULL.
+void requireBound(sqlite3_stmt* statement, int code) {
+    if (code != SQLITE_OK) {
+        throw storageFault(sqlite3_db_handle(statement), code);
+    }
+}
+
 void bindText(sqlite3_stmt* statement, int index, std::string_view text, bool lasts) {
-    sqlite3_bind_text64(statement, index, text.data() != nullptr ? text.data() : "", text.size(),
-                        lasts ? SQLITE_STATIC : SQLITE_TRANSIENT, SQLITE_UTF8);
+    requireBound(statement,
+                 sqlite3_bind_text64(statement, index, text.data() != nullptr ? text.data() : "",
+                                     text.size(), lasts ? SQLITE_STATIC : SQLITE_TRANSIENT,
+                                     SQLITE_UTF8));
 }
 
 void bindValue(sqlite3_stmt* statement, int index, const Value& value) {
@@ -65,9 +75,10 @@ void bindValue(sqlite3_stmt* statement, int index, const Value& value) {
     } else if (const auto* text = std::get_if<std::string>(&value)) {
         bindText(statement, index, *text, false);
     } else if (const auto* blob = std::get_if<Blob>(&value)) {
-        sqlite3_bind_blob64(statement, index,
-                            blob->bytes.data() != nullptr ? blob->bytes.data() : "",
-                            blob->bytes.size(), SQLITE_TRANSIENT);
+        requireBound(statement,
+                     sqlite3_bind_blob64(statement, index,
+                                         blob->bytes.data() != nullptr ? blob->bytes.data() : "",
+                                         blob->bytes.size(), SQLITE_TRANSIENT));
     } else {
         sqlite3_bind_null(statement, index);
     }

@@ -86,6 +86,10 @@ std::optional<fs::path> findFile(const fs::path& folder, const std::string& data
                "The database file '" + name +
                    "' is in use by another process: lock request time "
                    "out period exceeded.");
+    case SQLITE_READONLY:
+        // Even to read it, SQLite makes files of its own beside a database that nobody has open.
+        refuse(5120, "08001",
+               "Unable to open the physical file \"" + name + "\": its folder cannot be written.");
     default:
         refuse(5120, "08001",
                "Unable to open the physical file \"" + name + "\": " +
@@ -120,7 +124,23 @@ void prepareForUse(const DatabaseFile& file, int connectTimeoutSeconds) {
     sqlite3_busy_timeout(file.handle.get(), lockTimeoutMilliseconds);
 }
 
+/// Whoever may only read a file leaves its log beside it with the same rights, and nobody could
+/// write when the file gets others. What fails here is told when it is written.
+void giveRightsToLog(const fs::path& path) {
+    std::error_code error;
+    const fs::perms rights = fs::status(path, error).permissions();
+    for (const char* suffix : {"-wal", "-shm"}) {
+        fs::path log = path;
+        log += suffix;
+        const fs::file_status status = fs::status(log, error);
+        if (fs::exists(status) && status.permissions() != rights) {
+            fs::permissions(log, rights, error);
+        }
+    }
+}
+
 DatabaseFile openFile(const fs::path& path, int flags) {
+    giveRightsToLog(path);
     DatabaseFile file{path, nullptr, (flags & SQLITE_OPEN_READONLY) != 0};
     sqlite3* raw = nullptr;
     const int code = sqlite3_open_v2(toUtf8(path).c_str(), &raw,
@@ -129,6 +149,7 @@ DatabaseFile openFile(const fs::path& path, int flags) {
     if (code != SQLITE_OK) {
         refuseFile(path, raw, code);
     }
+    sqlite3_limit(raw, SQLITE_LIMIT_LENGTH, static_cast<int>(longestValue));
     file.readOnly = sqlite3_db_readonly(raw, "main") == 1;
     return file;
 }

@@ -51,8 +51,7 @@ bool namesItself(const QueryBody& body, std::string_view table) {
     if (operation == nullptr) {
         return !aliasOf(table, std::get<SelectCore>(body.node)).empty();
     }
-    return operation->op == SetOperator::UnionAll &&
-           (namesItself(*operation->left, table) || namesItself(*operation->right, table));
+    return namesItself(*operation->left, table) || namesItself(*operation->right, table);
 }
 
 int recursionLimit(const QueryHints& hints) {
@@ -123,7 +122,14 @@ void Emitter::flatten(const QueryBody& body, const Scope* outer, const char* sig
     std::string none;
     Core part = core(select, outer, nullptr, none);
     if (!recursion.table.empty()) {
-        const auto level = levelText(aliasOf(recursion.table, select), recursion.limit);
+        const std::string alias = aliasOf(recursion.table, select);
+        if (!alias.empty() && signOf(SetOperator::UnionAll) != std::string_view(sign)) {
+            raise(252, {recursion.table}, line_);
+        }
+        if (!alias.empty() && select.top) {
+            raise(461, {recursion.table}, line_);
+        }
+        const std::string level = levelText(alias, recursion.limit);
         part.items.push_back({std::string(levelColumn), {level, intType, false, {}}, {}});
     }
     if (select.top) {

@@ -118,6 +118,8 @@ constexpr Row rows[] = {
      "The conversion of the %1 value '%2' overflowed an %3 column. Use a larger integer column."},
     {245, 16, 1, "Conversion failed when converting the %1 value '%2' to data type %3."},
     {248, 16, 1, "The conversion of the %1 value '%2' overflowed an int column."},
+    {252, 16, 1,
+     "Recursive common table expression '%1' does not contain a top-level UNION ALL operator."},
     {256, 16, 1,
      "The data type %1 is invalid for the %2 function. Allowed types are: char/varchar, "
      "nchar/nvarchar, and binary/varbinary."},
@@ -153,6 +155,9 @@ constexpr Row rows[] = {
     {402, 16, 1, "The data types %1 and %2 are incompatible in the %3 operator."},
     {403, 16, 1, "Invalid operator for data type. Operator equals %1, type equals %2."},
     {421, 16, 1, "The %1 data type cannot be selected as DISTINCT because it is not comparable."},
+    {461, 16, 1,
+     "The TOP or OFFSET operator is not allowed in the recursive part of a recursive common table "
+     "expression '%1'."},
     {512, 16, 1,
      "Subquery returned more than 1 value. This is not permitted when the subquery follows =, !=, "
      "<, "
@@ -259,6 +264,10 @@ constexpr Row rows[] = {
      "Column, parameter, or variable #%1: Cannot specify a column width on data type "
      "%2."},
     {2717, 16, 2, "The size (%1) given to the %2 '%3' exceeds the maximum allowed (4000)."},
+    {2732, 16, 1,
+     "Error number %1 is invalid. The number must be from 13000 through 2147483647 and it cannot "
+     "be "
+     "50000."},
     {2744, 16, 2,
      "Multiple identity columns specified for table '%1'. Only one identity column per table is "
      "allowed."},
@@ -270,10 +279,6 @@ constexpr Row rows[] = {
      "Column or parameter #%1: Specified column precision %2 is greater than the maximum precision "
      "of "
      "38."},
-    {2732, 16, 1,
-     "Error number %1 is invalid. The number must be from 13000 through 2147483647 and it cannot "
-     "be "
-     "50000."},
     {2751, 16, 1,
      "Column or parameter #%1: Specified column scale %2 is greater than the specified precision "
      "of "
@@ -337,6 +342,7 @@ constexpr Row rows[] = {
      "clause "
      "with no search condition."},
     {6401, 16, 1, "Cannot roll back %1. No transaction or savepoint of that name was found."},
+    {7119, 16, 1, "Attempting to grow LOB beyond maximum allowed size of %1 bytes."},
     {8101, 16, 1,
      "An explicit value for the identity column in table '%1' can only be specified when a column "
      "list is used and IDENTITY_INSERT is ON."},
@@ -430,6 +436,10 @@ constexpr State states[] = {
     {2628, "22001"}, {2705, "42S21"}, {2714, "42S01"}, {3701, "42S02"}, {3902, "25000"},
     {3903, "25000"}, {4701, "42S02"}, {4902, "42S02"}, {4924, "42S22"}, {8114, "22018"},
     {8115, "22003"}, {8134, "22012"}, {8152, "22001"}, {8169, "22018"}};
+
+constexpr auto byNumber = [](const auto& a, const auto& b) { return a.number < b.number; };
+static_assert(std::is_sorted(std::begin(rows), std::end(rows), byNumber));
+static_assert(std::is_sorted(std::begin(states), std::end(states), byNumber));
 
 template <class Table>
 auto findNumber(const Table& table, int number)

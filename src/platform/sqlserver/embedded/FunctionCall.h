@@ -1,12 +1,15 @@
 // One call of a scalar function by SQLite: its arguments read, its result or fault given back.
 #pragma once
 
+#include "platform/sqlserver/embedded/Errors.h"
 #include "platform/sqlserver/embedded/Functions.h"
+#include "platform/sqlserver/embedded/SqliteHandle.h"
 
 #include <cstdint>
 #include <new>
 #include <span>
 #include <sqlite3.h>
+#include <string>
 #include <string_view>
 
 namespace velcro::sql::tsql {
@@ -69,6 +72,13 @@ void runScalar(sqlite3_context* context, int count, sqlite3_value** arguments) {
         giveFault(call, fault);
     } catch (const std::bad_alloc&) {
         sqlite3_result_error_nomem(context);
+    }
+}
+
+/// 7119 for a text that is longer than a value can be.
+inline void requireRoom(std::size_t bytes) {
+    if (bytes > longestValue) {
+        raise(7119, {std::to_string(longestValue)});
     }
 }
 

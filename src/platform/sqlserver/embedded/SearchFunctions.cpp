@@ -84,6 +84,7 @@ void replace(const Call& call) {
     for (std::size_t at = 0; at < text.size();) {
         std::size_t length = 0;
         if (startsWith(text.substr(at), wanted, length)) {
+            requireRoom(result.size() + with.size());
             result += with;
             at += length;
             continue;

@@ -34,6 +34,12 @@ Fault storageFault(sqlite3* database, int code) {
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
         return Fault({824, 24, 2, 0, "Database '" + name + "' is damaged: " + text + "."});
+    case SQLITE_TOOBIG:
+        return Fault(serverMessage(7119, {std::to_string(longestValue)}));
+    case SQLITE_ERROR:
+        // All that SQLite says of a SUM of integers that is no integer any more.
+        return Fault(text == "integer overflow" ? serverMessage(8115, {"expression", "bigint"})
+                                                : SqlMessage{50000, 16, 1, 0, text});
     case SQLITE_NOMEM:
         return Fault({701, 17, 1, 0, "There is insufficient system memory to run this query."});
     default:

@@ -13,6 +13,7 @@ namespace velcro::sql::tsql {
 namespace {
 
 constexpr std::size_t longest = 100'000'000; // of what REPLICATE and SPACE may make
+static_assert(longest < longestValue);
 
 std::string_view withoutTrailing(std::string_view text) {
     const auto last = text.find_last_not_of(' ');

@@ -106,8 +106,10 @@ private:
             keep(said, SqlErrorKind::ConnectionLost);
             throw std::move(*first_);
         }
-        // Nothing follows a call that the driver or its manager would not even make.
-        over_ = said.sqlState == "HY010" || said.sqlState == "IM001";
+        // Nothing follows a call that the driver or its manager would not even make, and a driver
+        // that fails more often than the text has characters would fail for ever.
+        ++failures_;
+        over_ = said.sqlState == "HY010" || said.sqlState == "IM001" || failures_ > batch_.size();
         keep(said, SqlErrorKind::Statement);
     }
 
@@ -123,6 +125,7 @@ private:
     const SqlConnection::OnResult& onResult_;
     StatementHandle statement_;
     std::optional<SqlError> first_;
+    std::size_t failures_ = 0;
     bool over_ = false;
 };
 

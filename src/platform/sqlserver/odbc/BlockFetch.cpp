@@ -142,7 +142,13 @@ private:
 
 std::vector<Diagnostic> fetchRows(SQLHANDLE statement, int columnCount, DriverKind kind,
                                   RowSet& rows) {
-    return BlockFetch(statement, columnCount, kind).run(rows);
+    try {
+        return BlockFetch(statement, columnCount, kind).run(rows);
+    } catch (const UndescribedColumn& column) {
+        auto said = diagnostics(SQL_HANDLE_STMT, statement, true);
+        said.push_back({"HY000", {.text = column.what()}});
+        return said;
+    }
 }
 
 } // namespace velcro::sql::odbc

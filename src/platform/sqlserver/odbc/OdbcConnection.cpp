@@ -103,7 +103,12 @@ void OdbcConnection::connect(const ConnectionSettings& settings) {
     inTransaction_ = false;
     kind_ = kindOfLibrary(info(connection_.get(), SQL_DRIVER_NAME));
     autoCommit_ = settings.autoCommit;
-    setAutoCommit(autoCommit_);
+    try {
+        setAutoCommit(autoCommit_);
+    } catch (const SqlError& error) {
+        disconnect();
+        throw SqlError(SqlErrorKind::NotConnected, error.sqlState(), error.message(), {});
+    }
 }
 
 void OdbcConnection::disconnect() noexcept {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <stdexcept>
 
 namespace velcro::sql::odbc {
 
@@ -49,7 +48,7 @@ ResultColumn::ResultColumn(SQLHANDLE statement, SQLUSMALLINT index, DriverKind k
     SQLSMALLINT nullable = 0;
     if (!SQL_SUCCEEDED(SQLDescribeColW(statement, index, wide(name), std::size(name), &nameLength,
                                        &type, &size, &scale, &nullable))) {
-        throw std::runtime_error("The driver does not describe column " + std::to_string(index));
+        throw UndescribedColumn("The driver does not describe column " + std::to_string(index));
     }
     column_.name = toUtf8(std::u16string_view(name));
     choose(type, size, scale, kind);

@@ -5,14 +5,21 @@
 #include "platform/sqlserver/odbc/DriverChoice.h"
 
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 namespace velcro::sql::odbc {
 
+/// The driver cannot tell what a column is; its diagnostics say why.
+struct UndescribedColumn : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
 class ResultColumn
 {
 public:
-    /// index from 1. Throws std::runtime_error where the driver cannot describe it.
+    /// index from 1. Throws UndescribedColumn.
     ResultColumn(SQLHANDLE statement, SQLUSMALLINT index, DriverKind kind);
 
     const Column& column() const { return column_; }

@@ -1,6 +1,7 @@
 // What happens when processes meet on one folder, or are stopped in the middle of their work.
 #include "support/ChildProcess.h"
 #include "support/EmbeddedDatabase.h"
+#include "support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 
@@ -259,6 +260,42 @@ TEST(EmbeddedFaultsTest, withoutRightsTheFileIsReadAndNotChanged) {
     });
     EXPECT_EQ(child.wait(), 0);
     EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), "0");
+}
+
+TEST(EmbeddedFaultsTest, aReadOnlyDatabaseThatNobodyHasOpenIsReadOrTold) {
+    const SharedFolder database(tables);
+    const std::string folder = database.path();
+    writeOrder(*EmbeddedDatabase::open(folder), 1);
+    namespace fs = std::filesystem;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        fs::permissions(entry.path(), fs::perms(0444));
+    }
+    const auto tried = [&](const char* batch) {
+        const velcro::test::OrdinaryUser user;
+        EXPECT_TRUE(user.works());
+        try {
+            return EmbeddedDatabase::answerOf(*EmbeddedDatabase::open(folder), batch);
+        } catch (const SqlError& error) {
+            EXPECT_EQ(error.number(), 5120);
+            EXPECT_EQ(error.kind(), velcro::sql::SqlErrorKind::NotConnected);
+            return std::string(error.what());
+        }
+    };
+    const char* const insert = "INSERT INTO Orders VALUES (2)";
+    const char* const count = "SELECT COUNT(*) FROM Orders";
+    fs::permissions(folder, fs::perms(0555));
+    for (const char* batch : {count, insert}) {
+        EXPECT_EQ(tried(batch), "Unable to open the physical file \"" + folder +
+                                    "/Shop.sqlite\": its folder cannot be written.");
+    }
+    fs::permissions(folder, fs::perms(0777)); // the file alone is read-only
+    EXPECT_EQ(tried(count), "1");
+    EXPECT_EQ(tried(insert), "error 3906");
+    EXPECT_EQ(tried(count), "1");
+    fs::permissions(folder + "/Shop.sqlite", fs::perms(0666));
+    EXPECT_EQ(tried(insert), "(1)");
+    EXPECT_EQ(tried(count), "2");
+    EXPECT_EQ(halfOrders(database), "1 0") << "the order just made has no items";
 }
 
 TEST(EmbeddedFaultsTest, aFileThatAnotherProcessKeepsLockedIsToldAfterTheTimeGiven) {

@@ -167,6 +167,36 @@ TEST_F(EmbeddedStatementsTest, refusalsBearTheServersNumbers) {
     EXPECT_EQ(database_.answer("SELECT COUNT(*), SUM(Qty) FROM Orders"), "3|12");
 }
 
+TEST_F(EmbeddedStatementsTest, whatHasNoEndOrNoRoomIsRefused) {
+    expectRows({
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM W) SELECT MAX(n) FROM W",
+         "error 530"},
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT w.n + 1 FROM W AS w WHERE w.n < 101)"
+         " SELECT MAX(n) FROM W",
+         "101"},
+        {"WITH W AS (SELECT 1 AS n, 'a' AS t UNION ALL SELECT n + 1, t FROM W WHERE n < 2)"
+         " SELECT * FROM W",
+         "1|a;2|a"},
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM W WHERE n < 3) SELECT MAX(n) FROM W"
+         " OPTION (MAXRECURSION 1)",
+         "error 530"},
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM W WHERE n < 999) SELECT MAX(n)"
+         " FROM W OPTION (MAXRECURSION 0)",
+         "999"},
+        {"WITH W (n) AS (SELECT 1) SELECT n FROM W OPTION (MAXRECURSION 32768)", "error 310"},
+        {"WITH W (n) AS (SELECT 1 UNION SELECT n FROM W) SELECT n FROM W", "error 252"},
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT TOP 1 n FROM W) SELECT n FROM W", "error 461"},
+        {"WITH W (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM W) INSERT INTO Orders (CO, CRONo, "
+         "Qty) SELECT '09', n, n FROM W",
+         "error 530"},
+        {"SELECT COUNT(*) FROM Orders WHERE CO = '09'", "0"},
+        {"DECLARE @s NVARCHAR(MAX) = REPLICATE(CAST('a' AS NVARCHAR(MAX)), 100000)"
+         " SELECT LEN(REPLACE(@s, 'a', @s))",
+         "error 7119"},
+        {"SELECT SUM(n) FROM (SELECT 9223372036854775807 AS n UNION ALL SELECT 1) T", "error 8115"},
+    });
+}
+
 TEST_F(EmbeddedStatementsTest, aFailedStatementEndsItsBatch) {
     expectRows({
         {"UPDATE Orders SET Qty = 1 ; UPDATE Orders SET nope = 1 ; UPDATE Orders SET Qty = 2",
