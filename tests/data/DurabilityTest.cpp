@@ -5,6 +5,7 @@
 #include "data/StatementText.h"
 #include "support/Desk.h"
 #include "support/DroppingServer.h"
+#include "support/FullDisk.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -151,4 +152,28 @@ TEST_F(DurabilityTest, aLostTillBatchRunsOnceAndOneLostAtItsCommitIsNotRunAgain)
     EXPECT_FALSE(tData->til_ExecSQL(1)) << "nobody knows what became of a lost commit";
     EXPECT_TRUE(gErrorMsg.endsWith("Communication link failure.")) << gErrorMsg.toStdString();
     EXPECT_EQ(till(), "2");
+}
+
+TEST_F(DurabilityTest, aBatchThatFillsTheDiskIsToldTakenBackAndCanBeTriedAgain) {
+    const QString big = "INSERT INTO SYSSaveGrids ([CO], [UserCode], [ScreenID], [GridSettings])"
+                        " SELECT '01', 'FULL', 'H', REPLICATE(CAST('x' AS NVARCHAR(MAX)), 3000000)";
+    const auto add = [&] {
+        sfg_AddSQL(technician("H1"), "NEW");
+        sfg_AddSQL(big, "");
+    };
+    {
+        const velcro::test::FullDisk full(1'000'000);
+        add();
+        EXPECT_FALSE(gData->vel_ExecSQL(1));
+    }
+    ASSERT_EQ(desk.shown.size(), 1);
+    EXPECT_TRUE(desk.shown[0].startsWith("box|SQL Error\rThe operating system returned an error"))
+        << desk.shown[0].toStdString();
+    QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QString::fromUtf8(file.readAll()), technician("H1") + " ;\n" + big + " ;");
+    EXPECT_EQ(technicians("H_"), "0");
+    add();
+    EXPECT_TRUE(gData->vel_ExecSQL(1));
+    EXPECT_EQ(technicians("H_"), "1");
 }

@@ -1,8 +1,12 @@
 #include "platform/sqlserver/RowSet.h"
 
+#include "platform/sqlserver/SqlError.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <limits>
+#include <type_traits>
 
 namespace velcro::sql {
 
@@ -46,6 +50,21 @@ std::string numberText(Number value) {
     char buffer[40];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
     return {buffer, end};
+}
+
+/// An integer is cut towards zero, and what is beyond its range is the end of the range.
+template <class Number>
+Number numberFrom(double value) {
+    if constexpr (std::is_same_v<Number, double>) {
+        return value;
+    } else {
+        constexpr double end = 0x1p63;
+        using Limits = std::numeric_limits<Number>;
+        return value >= end    ? Limits::max()
+               : value >= -end ? static_cast<Number>(value)
+               : value < 0     ? Limits::min()
+                               : 0; // no number at all
+    }
 }
 
 } // namespace
@@ -98,7 +117,7 @@ Number RowSet::as(std::size_t row, std::size_t column) const {
     case ColumnType::Bit:
         return static_cast<Number>(readNumber<std::int64_t>(cell));
     case ColumnType::Float:
-        return static_cast<Number>(readNumber<double>(cell));
+        return numberFrom<Number>(readNumber<double>(cell));
     default:
         return parseNumber<Number>(cell);
     }
@@ -130,6 +149,10 @@ void RowSetBuilder::addNull() {
 }
 
 void RowSetBuilder::addBytes(std::string_view value) {
+    if (cells_.size() + value.size() >= nullMark) {
+        throw SqlError(SqlErrorKind::Statement, "HY001",
+                       {.number = 701, .text = "A row of the result is longer than 2 GB."}, {});
+    }
     const auto* from = reinterpret_cast<const std::byte*>(value.data());
     cells_.insert(cells_.end(), from, from + value.size());
     ends_.push_back(static_cast<std::uint32_t>(cells_.size()));
@@ -140,6 +163,7 @@ void RowSetBuilder::addInteger(std::int64_t value) {
 }
 
 void RowSetBuilder::addFloat(double value) {
+    value += 0.0; // decimal and money know no negative zero
     addBytes({reinterpret_cast<const char*>(&value), sizeof value});
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace velcro::sql;
 
 namespace {
@@ -30,6 +32,7 @@ TEST(RowSetTest, cellsComeBackAsTheyWentIn) {
     EXPECT_EQ(rows.text(0, 1), "-42");
     EXPECT_EQ(rows.text(0, 2), "19.99");
     EXPECT_DOUBLE_EQ(rows.number(1, 2), 1e300);
+    EXPECT_EQ(rows.integer(1, 2), std::numeric_limits<std::int64_t>::max());
     EXPECT_FALSE(rows.isNull(0, 0));
     EXPECT_TRUE(rows.isNull(1, 0));
     EXPECT_EQ(rows.integer(1, 1), 0);

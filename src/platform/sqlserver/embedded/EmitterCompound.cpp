@@ -181,7 +181,7 @@ std::string Emitter::compoundOrder(const std::vector<OrderItem>& order,
         const auto* reference = std::get_if<ColumnRef>(&item.expr->node);
         std::size_t ordinal = 0;
         if (position != nullptr && position->kind == LiteralKind::Integer) {
-            ordinal = std::stoul(position->text);
+            ordinal = std::stoull(position->text);
         } else if (reference != nullptr) {
             const auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& c) {
                 return sameName(c.name, reference->parts.back());
@@ -226,6 +226,9 @@ std::string Emitter::withText(const std::vector<CommonTable>& tables, const Quer
     for (const auto& table : tables) {
         commonTables_.push_back({table.name, anchorColumns(table)});
         if (namesItself(*table.query->body, table.name)) {
+            if (std::holds_alternative<SelectCore>(table.query->body->node)) {
+                raise(252, {table.name}, line_);
+            }
             recursion_ = {table.name, limit};
         }
         const QueryText rows = query(*table.query, nullptr, true, table.columns);

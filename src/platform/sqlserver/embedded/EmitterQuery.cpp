@@ -170,7 +170,7 @@ void Emitter::requireSortable(const Type& type) const {
 std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& scope) {
     const auto* position = std::get_if<Literal>(&expr.node);
     if (position != nullptr && position->kind == LiteralKind::Integer) {
-        const auto wanted = std::stoul(position->text);
+        const auto wanted = std::stoull(position->text);
         if (wanted < 1 || wanted > core.items.size()) {
             raise(108, {position->text}, line_);
         }

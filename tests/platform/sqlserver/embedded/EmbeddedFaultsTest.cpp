@@ -1,6 +1,7 @@
 // What happens when processes meet on one folder, or are stopped in the middle of their work.
 #include "support/ChildProcess.h"
 #include "support/EmbeddedDatabase.h"
+#include "support/FullDisk.h"
 #include "support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
@@ -8,12 +9,12 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
 #include <random>
 #include <set>
 #include <thread>
 
 #include <sqlite3.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using velcro::sql::SqlError;
@@ -74,15 +75,6 @@ std::string halfOrders(const SharedFolder& database, int first = 0) {
 int wanted(const char* variable, int usual) {
     const char* value = std::getenv(variable);
     return value != nullptr ? std::atoi(value) : usual;
-}
-
-/// Lets no file of this process grow beyond that; gives the limit before.
-rlimit fileSizeLimit(rlim_t bytes) {
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{bytes, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    return before;
 }
 
 int drawNumbers(const std::string& folder, int report, int count) {
@@ -189,13 +181,12 @@ TEST(EmbeddedFaultsTest, aFullDiskIsToldAndLosesNothingThatWasConfirmed) {
     const SharedFolder database(tables);
     const std::string folder = database.path();
     ChildProcess child([&](int report) {
-        std::signal(SIGXFSZ, SIG_IGN);
         const auto connection = EmbeddedDatabase::open(folder);
         const auto answer = [&](const char* batch) {
             return EmbeddedDatabase::answerOf(*connection, batch);
         };
         writeOrder(*connection, 1);
-        const rlimit unlimited = fileSizeLimit(300'000);
+        std::optional<velcro::test::FullDisk> full(300'000);
         for (int number = 2; number < 10'000; ++number) {
             try {
                 writeOrder(*connection, number);
@@ -203,7 +194,7 @@ TEST(EmbeddedFaultsTest, aFullDiskIsToldAndLosesNothingThatWasConfirmed) {
                 const bool told = error.number() != 0 && *error.what() != '\0';
                 // The order was taken back already: what follows in its transaction must not be
                 // written without it, even when there is room again.
-                setrlimit(RLIMIT_FSIZE, &unlimited);
+                full.reset();
                 const bool lost =
                     answer("SELECT XACT_STATE(), @@TRANCOUNT INSERT INTO Orders VALUES (0)") ==
                     "-1|1 error 3930";

@@ -185,6 +185,7 @@ TEST_F(EmbeddedStatementsTest, whatHasNoEndOrNoRoomIsRefused) {
          "999"},
         {"WITH W (n) AS (SELECT 1) SELECT n FROM W OPTION (MAXRECURSION 32768)", "error 310"},
         {"WITH W (n) AS (SELECT 1 UNION SELECT n FROM W) SELECT n FROM W", "error 252"},
+        {"WITH Orders AS (SELECT CO FROM Orders) SELECT CO FROM Orders", "error 252"},
         {"WITH W (n) AS (SELECT 1 UNION ALL SELECT TOP 1 n FROM W) SELECT n FROM W", "error 461"},
         {"WITH W (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM W) INSERT INTO Orders (CO, CRONo, "
          "Qty) SELECT '09', n, n FROM W",
@@ -193,6 +194,7 @@ TEST_F(EmbeddedStatementsTest, whatHasNoEndOrNoRoomIsRefused) {
         {"DECLARE @s NVARCHAR(MAX) = REPLICATE(CAST('a' AS NVARCHAR(MAX)), 100000)"
          " SELECT LEN(REPLACE(@s, 'a', @s))",
          "error 7119"},
+        {"SELECT CAST(-0.001 AS decimal(9, 2)), 0.0 * -1, ROUND(-0.4, 0)", "0|0|0"},
         {"SELECT SUM(n) FROM (SELECT 9223372036854775807 AS n UNION ALL SELECT 1) T", "error 8115"},
     });
 }
