@@ -72,11 +72,12 @@ void DetailScreen::makeButtons(const QString& saveCaption) {
     connectHandler(btnSave, &KeyButton::clicked, this, [this] { btnSaveClick(); });
     auto* row = new QHBoxLayout;
     row->setContentsMargins(margin, margin, margin, margin);
+    row->setSpacing(margin);
     row->addWidget(btnKeyboard);
     row->addWidget(newTechHelpButton());
     row->addStretch(1);
     row->addWidget(btnCancel);
-    row->addSpacing(2 * margin);
+    row->addSpacing(margin);
     row->addWidget(btnSave);
     body().addLayout(row);
     // Enter that leads through the edits ends on the save and presses it.

@@ -1,12 +1,15 @@
 #include "application/SelectionScreen.h"
 
-#include <QLineEdit>
+#include "data/DataUVEL.h"
 
 using velcro::ui::connectHandler;
 using velcro::ui::KeyButton;
 
-SelectionScreen::SelectionScreen(ListFacts facts, Connection& connection, QWidget* parent)
-    : ListScreen(std::move(facts), connection, parent) {
+SelectionScreen::SelectionScreen(ListFacts facts, SelectionRead read,
+                                 std::vector<PickedField> picked, QWidget* parent)
+    : ListScreen(std::move(facts), gData->Velmara, parent)
+    , read_(std::move(read))
+    , picked_(std::move(picked)) {
     btnSelect =
         addOption(QStringLiteral("btnSelect"), QStringLiteral("Select"), QStringLiteral("ENTER"));
     connectHandler(btnSelect, &KeyButton::clicked, this, [this] { btnSelectClick(); });
@@ -22,8 +25,18 @@ SelectionScreen::SelectionScreen(ListFacts facts, Connection& connection, QWidge
     bindKey(Qt::Key_PageDown, this, [this] { grid().previous(); });
 }
 
-QString SelectionScreen::field(const char* name) const {
-    return query().FieldByName(QString::fromLatin1(name)).AsString();
+QStringList SelectionScreen::statementLines(const QString& xSQL) const {
+    if (xSQL.trimmed().isEmpty()) {
+        return read_.whole + read_.scope + QStringList(read_.order);
+    }
+    return read_.search + read_.scope + QStringList(xSQL);
+}
+
+void SelectionScreen::FormShow() {
+    for (const auto& picked : picked_) {
+        picked.field->clear();
+    }
+    ListScreen::FormShow();
 }
 
 void SelectionScreen::hideKeyCaps() {
@@ -38,6 +51,9 @@ void SelectionScreen::btnSelectClick() {
     if (!hasCurrentRecord()) {
         nothingToTake();
         return;
+    }
+    for (const auto& picked : picked_) {
+        *picked.field = query().FieldByName(QString::fromLatin1(picked.column)).AsString();
     }
     takeRecord();
     accept();

@@ -1,7 +1,6 @@
 #include "lookups/CRO900.h"
 
 #include "application/Settings.h"
-#include "data/DataUVEL.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 
@@ -39,10 +38,35 @@ ListFacts customerFacts() {
     };
 }
 
+// clang-format off
+SelectionRead customerRead() {
+    return {
+        .whole = {
+            "SELECT TOP(2000) [Account], [Name], [Cellphone], [Telephone], [Telephone2], [Contact], [IDNo], [DefBranch]",
+            " FROM DEBMaster WITH (NOLOCK)"},
+        .search = {
+            "SELECT [Account], [Name], [Cellphone], [Telephone],  [Telephone2], [Contact], [IDNo], [DefBranch]",
+            "  FROM DEBMaster WITH (NOLOCK)"},
+        .scope = {
+            " WHERE [CO] = " + QuotedStr(gCO),
+            "   AND [Branch] = " + QuotedStr(gDebBranch)},
+        .order = " ORDER BY [Name]",
+    };
+}
+// clang-format on
+
 } // namespace
 
 TfrmCRO900::TfrmCRO900(QWidget* parent)
-    : SelectionScreen(customerFacts(), gData->Velmara, parent) {
+    : SelectionScreen(customerFacts(), customerRead(),
+                      {{"Account", &xAccount},
+                       {"Name", &xName},
+                       {"IDNo", &xIDNo},
+                       {"Cellphone", &xCellphone},
+                       {"Telephone", &xTelephone},
+                       {"Telephone2", &xTelephone2},
+                       {"DefBranch", &xDefBranch}},
+                      parent) {
     edSearchText->installEventFilter(this);
     // Seats that are worked by touch alone want no keyboard hints.
     if (sfvel_GetParam(QStringLiteral("TIL"), 62) == QLatin1String("Y")) {
@@ -50,45 +74,11 @@ TfrmCRO900::TfrmCRO900(QWidget* parent)
     }
 }
 
-void TfrmCRO900::FormShow() {
-    for (auto* field :
-         {&xAccount, &xName, &xIDNo, &xCellphone, &xTelephone, &xTelephone2, &xDefBranch}) {
-        field->clear();
-    }
-    SelectionScreen::FormShow();
-}
-
 void TfrmCRO900::beforeRead(const QString& xSQL) {
     btnRestoreGrid->setVisible(!xSQL.trimmed().isEmpty());
 }
 
-// clang-format off
-QStringList TfrmCRO900::statementLines(const QString& xSQL) const {
-    const QStringList scope = {
-        " WHERE [CO] = " + QuotedStr(gCO),
-        "   AND [Branch] = " + QuotedStr(gDebBranch),
-    };
-    if (xSQL.trimmed().isEmpty()) {
-        return QStringList{
-            "SELECT TOP(2000) [Account], [Name], [Cellphone], [Telephone], [Telephone2], [Contact], [IDNo], [DefBranch]",
-            " FROM DEBMaster WITH (NOLOCK)"} + scope + QStringList{
-            " ORDER BY [Name]"};
-    }
-    return QStringList{
-        "SELECT [Account], [Name], [Cellphone], [Telephone],  [Telephone2], [Contact], [IDNo], [DefBranch]",
-        "  FROM DEBMaster WITH (NOLOCK)"} + scope + QStringList{
-        xSQL};
-}
-// clang-format on
-
 void TfrmCRO900::takeRecord() {
-    xAccount = field("Account");
-    xName = field("Name");
-    xIDNo = field("IDNo");
-    xCellphone = field("Cellphone");
-    xTelephone = field("Telephone");
-    xTelephone2 = field("Telephone2");
-    xDefBranch = field("DefBranch");
     xDisplay = xAccount + QStringLiteral(" - ") + xName;
 }
 

@@ -16,9 +16,7 @@ public:
     QString xAccount, xName, xIDNo, xCellphone, xTelephone, xTelephone2, xDefBranch;
 
 protected:
-    QStringList statementLines(const QString& xSQL) const override;
     void takeRecord() override;
-    void FormShow() override;
     void beforeRead(const QString& xSQL) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,6 +1,5 @@
 #include "lookups/CRO910.h"
 
-#include "data/DataUVEL.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 
@@ -43,15 +42,9 @@ ListFacts serialFacts() {
     };
 }
 
-} // namespace
-
-TfrmCRO910::TfrmCRO910(QWidget* parent)
-    : SelectionScreen(serialFacts(), gData->Velmara, parent) {
-    hideKeyCaps();
-}
-
-QStringList TfrmCRO910::statementLines(const QString& xSQL) const {
-    return {
+// A search is capped as well.
+SelectionRead serialRead() {
+    const QStringList lines = {
         "SELECT TOP(1000) T0.RecID, T0.Status, T0.SerialNo, T0.StockCode, T0.LinkCode, "
         "T1.Description1",
         "  FROM STKSerialMst T0",
@@ -60,19 +53,30 @@ QStringList TfrmCRO910::statementLines(const QString& xSQL) const {
         "   AND T1.Branch = T0.Branch",
         "   AND T1.StockCode = T0.StockCode",
         "   AND T1.LinkCode = T0.LinkCode",
-        " WHERE T0.CO = " + QuotedStr(gCO),
-        "   AND T0.Branch = " + QuotedStr(gBranch),
-        xSQL.isEmpty() ? QStringLiteral(" ORDER BY T0.SerialNo DESC") : xSQL,
     };
+    return {
+        .whole = lines,
+        .search = lines,
+        .scope = {" WHERE T0.CO = " + QuotedStr(gCO), "   AND T0.Branch = " + QuotedStr(gBranch)},
+        .order = " ORDER BY T0.SerialNo DESC",
+    };
+}
+
+} // namespace
+
+TfrmCRO910::TfrmCRO910(QWidget* parent)
+    : SelectionScreen(serialFacts(), serialRead(),
+                      {{"Status", &xStatus},
+                       {"SerialNo", &xSerialNo},
+                       {"StockCode", &xStockCode},
+                       {"LinkCode", &xLinkCode},
+                       {"Description1", &xDescription1}},
+                      parent) {
+    hideKeyCaps();
 }
 
 void TfrmCRO910::takeRecord() {
     xRecID = query().FieldByName(QStringLiteral("RecID")).AsInteger();
-    xStatus = field("Status");
-    xSerialNo = field("SerialNo");
-    xStockCode = field("StockCode");
-    xLinkCode = field("LinkCode");
-    xDescription1 = field("Description1");
 }
 
 void TfrmCRO910::nothingToTake() {

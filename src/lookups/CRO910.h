@@ -15,7 +15,6 @@ public:
     QString xSerialNo, xStatus, xStockCode, xLinkCode, xDescription1;
 
 protected:
-    QStringList statementLines(const QString& xSQL) const override;
     void takeRecord() override;
     void nothingToTake() override;
     void searchEntered() override;

@@ -3,6 +3,7 @@
 #include "ui/Handler.h"
 #include "ui/Theme.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScroller>
@@ -192,6 +193,10 @@ void RowGrid::fitColumns() {
                 widestColumn < 0 || columnWidth(i) > columnWidth(widestColumn) ? i : widestColumn;
         }
     }
+    // The scroll bar of the new rows takes its room now and not with the next event.
+    updateGeometries();
+    QEvent layout(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(this, &layout);
     // Room that is left goes to the widest column, which is the one with the names.
     if (widestColumn >= 0 && used < viewport()->width()) {
         header->resizeSection(widestColumn, columnWidth(widestColumn) + viewport()->width() - used);

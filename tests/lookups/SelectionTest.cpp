@@ -174,6 +174,42 @@ TEST_F(SelectionTest, aSerialIsPickedWithItsStatusInWords) {
     EXPECT_FALSE(screen.xStockCode.isEmpty());
 }
 
+TEST_F(SelectionTest, serialsAreThoseOfTheBranchTheirStatusInWordsAndAQuoteAFailedRead) {
+    const char* const statuses[][2] = {
+        {"0", "Open"},     {"2", "Marked Return"}, {"5", "Captured on IBT"},
+        {"9", "Invoiced"}, {"D", "Deleted"},       {"7", "7"},
+    };
+    Desk::onSuite("DELETE FROM STKSerialMst");
+    const auto add = [](const QString& serial, const QString& status, const QString& branchIs) {
+        Desk::onSuite("INSERT INTO STKSerialMst ([CO], [Branch], [StockCode], [LinkCode], "
+                      "[SerialNo], [Status]) SELECT TOP(1) [CO], [Branch], [StockCode], "
+                      "[LinkCode], '" +
+                      serial + "', '" + status +
+                      "' FROM STKMaster WHERE [CO] = '01' AND [Branch] " + branchIs);
+    };
+    for (int i = 0; i < 6; ++i) {
+        add("S" + QString::number(i), statuses[i][0], "= '100'");
+    }
+    add("S9", "0", "<> '100'");
+    ASSERT_EQ(Desk::suite("SELECT COUNT(*) FROM STKSerialMst"), "7");
+    TfrmCRO910 screen;
+    user.workIn(screen, [&] {
+        EXPECT_EQ(user.column("Serial No."), QStringList({"S5", "S4", "S3", "S2", "S1", "S0"}));
+        for (int i = 0; i < 6; ++i) {
+            EXPECT_EQ(user.column("Status").value(5 - i), statuses[i][1]) << statuses[i][0];
+        }
+        search("S'");
+        ASSERT_EQ(desk.shown.size(), 1);
+        EXPECT_TRUE(desk.shown[0].startsWith("920-001|SQL Error on Table: STKSerialMst :-\r"))
+            << desk.shown[0].toStdString();
+        EXPECT_EQ(user.column("Serial No."), QStringList()) << "the grid stays empty";
+        user.press(Qt::Key_F12);
+        EXPECT_EQ(user.column("Serial No.").size(), 6);
+        user.press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(screen.xRecID, 0);
+}
+
 TEST_F(SelectionTest, withoutSerialsSelectingClosesWithNothing) {
     Desk::onSuite("DELETE FROM STKSerialMst");
     TfrmCRO910 screen;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -75,6 +76,30 @@ TEST_F(RowGridTest, ShowsCaptionsDisplayTextsAndBlanksForWhatTheResultLacks) {
     EXPECT_EQ(shown(grid, 3), QStringList({"", "", "", ""}));
     EXPECT_TRUE(grid.isColumnHidden(4));
     EXPECT_FALSE(grid.isColumnHidden(0));
+}
+
+TEST_F(RowGridTest, ManyRowsFillTheWidthBesideTheirScrollBar) {
+    const std::vector<Row> many(200, {"Adams", "0", 1});
+    const auto fills = [](ui::RowGrid& filled) {
+        QApplication::processEvents();
+        EXPECT_TRUE(filled.verticalScrollBar()->isVisible());
+        EXPECT_EQ(filled.horizontalScrollBar()->maximum(), 0) << "nothing is left to scroll to";
+        EXPECT_EQ(filled.horizontalHeader()->length(), filled.viewport()->width());
+    };
+    for (const bool rowsFirst : {true, false}) {
+        SCOPED_TRACE(rowsFirst ? "rows, then shown" : "shown, then rows");
+        ui::RowGrid filled;
+        filled.setColumns({{"Name"}, {"Status"}, {"Items"}});
+        filled.resize(700, 300);
+        if (rowsFirst) {
+            filled.setRows(orders(many));
+        }
+        filled.show();
+        if (!rowsFirst) {
+            filled.setRows(orders(many));
+        }
+        fills(filled);
+    }
 }
 
 TEST_F(RowGridTest, HeadingClickSortsTextWithoutCaseAndNumbersAsNumbers) {
