@@ -50,6 +50,8 @@ void saveOrder(Rounds& rounds) {
     bench::Clock::time_point pressed;
     std::clock_t processor = 0;
     velcro::ui::setModalWatcher([&](QDialog& form) {
+        form.activateWindow(); // or its edits have no focus to type into
+        QApplication::processEvents();
         typeInto(form, "edAccount", "C00001");
         typeInto(form, "edName", "Aalderwyn Household Repairs");
         typeInto(form, "edAddress1", "14 Quarry Lane");
