@@ -92,7 +92,8 @@ class TextEdit : public Yielding<QLineEdit>
 public:
     TextEdit() {
         QObject::connect(this, &QLineEdit::textChanged, this, [this] {
-            if (!hasFocus()) {
+            // Not hasFocus(): letters also come while the keyboard on the screen is the active window.
+            if (window()->focusWidget() != this) {
                 home(false);
             }
         });

@@ -1,17 +1,12 @@
 // Keys that come faster than the eye, and what stands under the windows they open.
+#include "repairs/BookingDesk.h"
 #include "repairs/CRO100.h"
-#include "support/Desk.h"
-#include "support/ScriptedUser.h"
-
-#include <gtest/gtest.h>
 
 using velcro::test::Desk;
 
 namespace {
 
-const QString headerCaption = QStringLiteral("Workshop Centre: Repair Order Management");
-
-class KeyboardRoadTest : public testing::Test
+class KeyboardRoadTest : public BookingDesk
 {
 protected:
     void inRegister(const ScriptedUser::Step& steps) {
@@ -23,9 +18,6 @@ protected:
         });
     }
     static QString orders() { return Desk::suite("SELECT COUNT(*) FROM CRORepMst"); }
-
-    Desk desk;
-    ScriptedUser user;
 };
 
 } // namespace
@@ -42,7 +34,7 @@ TEST_F(KeyboardRoadTest, whatIsTypedRightAfterTheSearchKeyIsSearchedFor) {
 TEST_F(KeyboardRoadTest, enterLeadsThroughTheBookingAndSavesItButDeletesNothing) {
     const int before = orders().toInt();
     inRegister([&] {
-        user.expectForm(headerCaption, [&] {
+        user.expectForm(headerTitle, [&] {
             for (int i = 0; i < 3; ++i) {
                 user.press(Qt::Key_Return);
             }
@@ -60,7 +52,7 @@ TEST_F(KeyboardRoadTest, enterLeadsThroughTheBookingAndSavesItButDeletesNothing)
         });
         user.press(Qt::Key_Insert);
         EXPECT_EQ(orders().toInt(), before + 1);
-        user.expectForm(headerCaption, [&] {
+        user.expectForm(headerTitle, [&] {
             EXPECT_EQ(user.focus(), "btnSave");
             user.press(Qt::Key_Return);
             EXPECT_TRUE(user.form().isVisible());
@@ -74,7 +66,7 @@ TEST_F(KeyboardRoadTest, enterLeadsThroughTheBookingAndSavesItButDeletesNothing)
 // Every window of the system is painted and moved by itself, which is slow and flickers.
 TEST_F(KeyboardRoadTest, aScreenIsOneWindowOfTheSystemAlsoBelowAnother) {
     inRegister([&] {
-        user.expectForm(headerCaption, [&] { user.press(Qt::Key_Escape); });
+        user.expectForm(headerTitle, [&] { user.press(Qt::Key_Escape); });
         user.press(Qt::Key_Insert);
         for (const auto* control : user.form().findChildren<QWidget*>()) {
             EXPECT_TRUE(control->isWindow() || control->internalWinId() == 0)
