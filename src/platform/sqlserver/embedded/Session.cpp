@@ -157,6 +157,10 @@ std::shared_ptr<Program> Session::programOf(Shape& shape, std::span<const Parame
     for (const auto& parameter : parameters) {
         shape.key.push_back(kindLetter(parameter));
     }
+    // Its lines are those of the batch that it was first read in.
+    if (shape.firstLine > 1) {
+        shape.key += '@' + std::to_string(shape.firstLine);
+    }
     if (auto* found = cache_.find(shape)) {
         return *found;
     }

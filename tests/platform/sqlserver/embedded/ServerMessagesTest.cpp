@@ -291,3 +291,19 @@ TEST_F(ServerMessagesTest, statesAndLines) {
         }
     }
 }
+
+TEST_F(ServerMessagesTest, aStatementSeenBeforeNamesTheLineItStandsInNow) {
+    const std::string before = "UPDATE Item SET Qty = 3 ;\n";
+    const std::pair<std::string, int> batches[] = {{before + "\nSELECT Nope FROM Item", 3},
+                                                   {"SELECT Nope FROM Item", 1},
+                                                   {before + "SELECT Nope FROM Item", 2},
+                                                   {before + "\nSELECT Nope FROM Item", 3}};
+    for (const auto& [batch, line] : batches) {
+        try {
+            database_.connection().execute(batch);
+            ADD_FAILURE() << batch;
+        } catch (const SqlError& error) {
+            EXPECT_EQ(error.message().line, line) << batch;
+        }
+    }
+}
