@@ -86,11 +86,26 @@ void DetailScreen::makeButtons(const QString& saveCaption) {
 }
 
 void DetailScreen::FormShow() {
+    // Before anything can fail: a delete must never look like a save.
+    showMode();
     watchDates();
-    setDefaults();
-    if (!adding()) {
-        ExtractData();
+    try {
+        setDefaults();
+        if (!adding()) {
+            ExtractData();
+        }
+    } catch (...) {
+        saveNothing();
+        throw;
     }
+    if (deleting()) {
+        btnSave->setFocus();
+    } else if (firstControl_ != nullptr) {
+        firstControl_->setFocus();
+    }
+}
+
+void DetailScreen::showMode() {
     if (deleting()) {
         pnlMain->setEnabled(false);
         btnSave->setText(QStringLiteral("DELETE"));
@@ -98,10 +113,13 @@ void DetailScreen::FormShow() {
         btnSave->setRole(KeyButton::Role::Danger);
         resetStatusBar();
         displayError(QStringLiteral("Press [F10] to Delete"));
-        btnSave->setFocus();
-    } else if (firstControl_ != nullptr) {
-        firstControl_->setFocus();
     }
+}
+
+void DetailScreen::saveNothing() {
+    btnSave->setEnabled(false);
+    displayError(QStringLiteral("Could not be read: nothing can be saved. Close and open again."));
+    btnCancel->setFocus();
 }
 
 void DetailScreen::btnSaveClick() {

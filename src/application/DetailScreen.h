@@ -47,6 +47,9 @@ protected:
     /// What a screen does between the save and its closing.
     virtual void afterSave() {}
 
+    /// What the screen shows is not the row: switches the save off and says so. Also happens by
+    /// itself when setDefaults or ExtractData throws.
+    void saveNothing();
     /// Shows an error in the status bar, marks the control and gives it the focus.
     bool refuse(QWidget* control, const QString& message);
     /// Takes message and mark away.
@@ -65,6 +68,7 @@ protected:
 private:
     void makeButtons(const QString& saveCaption);
     void btnSaveClick();
+    void showMode();
     void collect();
     void enterPressed(const QObject* control);
     void watchDates();

@@ -134,6 +134,7 @@ void TfrmCRO100A::ExtractData() {
                      QStringLiteral("SQL Error reading object \"CRORepMst\". Details: \r") +
                          errorText(error),
                      unitName(), QStringLiteral("ExtractData"));
+        saveNothing();
     }
 }
 

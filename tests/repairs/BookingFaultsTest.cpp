@@ -159,6 +159,9 @@ TEST_F(BookingFaultsTest, anOrderThatCannotBeReadIsToldAndTheScreenKeepsItsDefau
     user.workIn(screen, [&] {
         EXPECT_TRUE(screen.isVisible());
         EXPECT_EQ(user.sees("cmbReceiveMthd"), "WALKIN - WALKIN");
+        fill("Over a row that was not read");
+        user.press(Qt::Key_F10);
+        EXPECT_TRUE(screen.isVisible()) << "nothing is saved";
         user.press(Qt::Key_Escape);
     });
     ASSERT_EQ(desk.shown.size(), 1);
@@ -166,6 +169,28 @@ TEST_F(BookingFaultsTest, anOrderThatCannotBeReadIsToldAndTheScreenKeepsItsDefau
         "100A-001|SQL Error reading object \"CRORepMst\". Details: \rInvalid object name"))
         << desk.shown[0].toStdString();
     EXPECT_TRUE(raised.isEmpty());
+}
+
+TEST_F(BookingFaultsTest, aScreenWhoseClockReadFailsShowsItsModeAndSavesNothing) {
+    const int whole = rowsBelow("100300");
+    for (const auto& [mode, caption] : {std::pair(3, "DELETE"), std::pair(1, "Save Order")}) {
+        cData->CloseDB_Common();
+        show(mode, "100300", [&, mode = mode, caption = caption] {
+            EXPECT_EQ(user.sees("btnSave"), caption);
+            EXPECT_EQ(user.find<QWidget>("pnlMain").isEnabled(), mode != 3);
+            EXPECT_TRUE(user.message().startsWith("Could not be read: nothing can be saved."));
+            if (mode != 3) {
+                cData->ConnectDB_Common();
+                fill("Without a date");
+            }
+            user.press(Qt::Key_F10);
+            EXPECT_TRUE(user.form().isVisible());
+            user.press(Qt::Key_Escape);
+        });
+    }
+    EXPECT_EQ(rowsBelow("100300"), whole);
+    EXPECT_EQ(ordersOf("Without a date"), "0");
+    EXPECT_EQ(raised.size(), 2) << raised.join('\n').toStdString();
 }
 
 TEST_F(BookingFaultsTest, aBadNumberInTheTableBlocksTheDeleteUntilItIsMended) {
