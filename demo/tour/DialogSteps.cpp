@@ -1,9 +1,9 @@
 // The message dialogs.
 #include "Steps.h"
 
-#include "application/SysFuncGlobal.h"
 #include "data/Prompts.h"
 #include "data/Session.h"
+#include "screens/SysFuncGlobal.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 // Log-in, menu, notices and the way out.
 #include "Steps.h"
 
+#include "application/CMN010.h"
 #include "application/CMN012.h"
-#include "application/SysFuncGlobal.h"
 #include "data/Session.h"
 
 #include <utility>

@@ -1,8 +1,8 @@
 #include "application/CMN010.h"
 
-#include "application/SysFuncGlobal.h"
 #include "application/VersionCheck.h"
 #include "data/Session.h"
+#include "screens/SysFuncGlobal.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 

@@ -1,7 +1,7 @@
 // TfrmCMN010, the notice that this program's version is not the registered one.
 #pragma once
 
-#include "application/MessageForm.h"
+#include "screens/MessageForm.h"
 
 class TfrmCMN010 : public MessageForm
 {
@@ -23,3 +23,6 @@ private:
     QString xEXEVersion, xSysVersion;
     QString programName_; // as vcVersions has it
 };
+
+/// Shows that program and registered version differ; true when the program may go on.
+bool sfg_VersionDlg();

@@ -1,6 +1,6 @@
 #include "application/CMN012.h"
 
-#include "application/Terminate.h"
+#include "screens/Terminate.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 

@@ -1,7 +1,7 @@
 // TfrmCMN012, the count-down that an idle seat shows before it ends.
 #pragma once
 
-#include "application/MessageForm.h"
+#include "screens/MessageForm.h"
 
 #include <QTimer>
 

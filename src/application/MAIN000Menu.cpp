@@ -1,5 +1,5 @@
 #include "application/MAIN000.h"
-#include "application/SysStatusBar.h"
+#include "screens/SysStatusBar.h"
 #include "ui/Handler.h"
 
 #include <QAction>

@@ -1,17 +1,17 @@
 #include "application/Program.h"
 
-#include "application/ImageLists.h"
-#include "application/ScreenServices.h"
 #include "application/SessionInit.h"
-#include "application/Settings.h"
 #include "application/StartUp.h"
-#include "application/SysDataModel.h"
-#include "application/SysFuncGlobal.h"
 #include "application/VersionCheck.h"
 #include "data/DataModules.h"
+#include "data/SysDataModel.h"
 #include "repairs/CRO100.h"
+#include "screens/ImageLists.h"
+#include "screens/ScreenServices.h"
+#include "screens/SysFuncGlobal.h"
 #include "security/SysLogIn.h"
 #include "security/SysLogInForms.h"
+#include "security/VEL710.h"
 #include "ui/Icons.h"
 
 #include <QApplication>

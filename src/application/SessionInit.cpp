@@ -1,8 +1,8 @@
 #include "application/SessionInit.h"
 
-#include "application/SysDataModel.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
+#include "data/SysDataModel.h"
 #include "data/SysLoadData.h"
 #include "platform/seat/Folders.h"
 #include "security/SysMachine.h"

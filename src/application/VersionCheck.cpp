@@ -1,6 +1,6 @@
 #include "application/VersionCheck.h"
 
-#include "application/SysFuncGlobal.h"
+#include "application/CMN010.h"
 #include "data/DataUCMN.h"
 #include "data/DateTimeText.h"
 #include "data/ReadGuard.h"

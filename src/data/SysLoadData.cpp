@@ -6,8 +6,6 @@
 #include "data/Session.h"
 #include "data/StatementText.h"
 
-#include <QComboBox>
-
 namespace {
 
 QString scopeText(ComboLoader::Scope scope, const LoaderArguments& given) {
@@ -58,44 +56,32 @@ QString itemText(const QString& table, const Statement& row) {
     return row.Fields(0).AsString() + " - " + row.Fields(1).AsString();
 }
 
-void addLeadingItems(QComboBox& combo, const QString& xALL) {
-    const QString leading = xALL.trimmed();
-    if (leading == QLatin1String("N")) {
-        return;
-    }
-    if (leading == QLatin1String("*BLANK*")) {
-        combo.addItem(" ");
-    } else if (leading == QLatin1String("*NEW*")) {
-        combo.addItems({" ", "<Add New>"});
-    } else {
-        combo.addItem("*ALL* - " + xALL);
-    }
-}
-
 } // namespace
 
-void sld_LoadCombo(const QString& xTable, QComboBox& cmbCombo, const QString& xALL,
-                   const QString& xParam1, const QString& xParam2, const QString& xParam3) {
-    if (gCmbCO.trimmed().isEmpty()) {
-        gCmbCO = gCO;
+QStringList sld_ComboLeadingItems(const QString& xALL) {
+    const QString leading = xALL.trimmed();
+    if (leading == QLatin1String("N")) {
+        return {};
     }
-    if (gCmbBranch.trimmed().isEmpty()) {
-        gCmbBranch = gBranch;
+    if (leading == QLatin1String("*BLANK*")) {
+        return {" "};
     }
-    const QString wSQL = sld_LoadComboSQL(xTable, xParam1, xParam2, xParam3, gCmbCO, gCmbBranch);
-    if (wSQL.isEmpty()) {
-        return;
+    if (leading == QLatin1String("*NEW*")) {
+        return {" ", "<Add New>"};
     }
-    cmbCombo.clear();
-    addLeadingItems(cmbCombo, xALL);
+    return {"*ALL* - " + xALL};
+}
+
+QStringList sld_ComboRows(const QString& xTable, const QString& xSQL, const QString& xParam1) {
     const QString table = xTable.toUpper();
+    QStringList items;
     try {
         Statement wQuery(gData->Velmara);
         wQuery.NewRead();
-        wQuery.SQL.Add(wSQL);
+        wQuery.SQL.Add(xSQL);
         wQuery.Open();
         for (; !wQuery.Eof(); wQuery.Next()) {
-            cmbCombo.addItem(itemText(table, wQuery));
+            items << itemText(table, wQuery);
         }
     } catch (const std::exception& error) {
         throw VelmaraError(QStringLiteral("[SysLoadData.sld_LoadCombo] SQL Error reading object "
@@ -103,9 +89,9 @@ void sld_LoadCombo(const QString& xTable, QComboBox& cmbCombo, const QString& xA
                                .arg(xTable, errorText(error)));
     }
     if (table == QLatin1String("SYSTAX") && (xParam1 == "I" || xParam1 == "O")) {
-        cmbCombo.addItem("C - Customs VAT Rate");
+        items << "C - Customs VAT Rate";
     }
-    cmbCombo.setMaxVisibleItems(qMin(cmbCombo.count(), 20));
+    return items;
 }
 
 QString sld_LoadComboSQL(const QString& xTable, const QString& xParam1, const QString& xParam2,

@@ -4,20 +4,19 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 class Statement;
-
-class QComboBox;
 
 /// The last image read.
 inline QByteArray gImageStream;
 
-/// Fills a combo box with "code - description" of a code table. xALL: "N" no leading item,
-/// "*BLANK*", "*NEW*", anything else the item "*ALL* - " + xALL. An unknown xTable leaves the combo
-/// as it is. Throws VelmaraError when the read fails.
-void sld_LoadCombo(const QString& xTable, QComboBox& cmbCombo, const QString& xALL,
-                   const QString& xParam1 = {}, const QString& xParam2 = {},
-                   const QString& xParam3 = {});
+/// What a combo box over a code table begins with. xALL: "N" nothing, "*BLANK*", "*NEW*", anything
+/// else the item "*ALL* - " + xALL.
+QStringList sld_ComboLeadingItems(const QString& xALL);
+/// One item a row of the table's statement, "code - description". Throws VelmaraError when the read
+/// fails.
+QStringList sld_ComboRows(const QString& xTable, const QString& xSQL, const QString& xParam1);
 /// The statement of a key; blank for an unknown one.
 QString sld_LoadComboSQL(const QString& xTable, const QString& xParam1, const QString& xParam2,
                          const QString& xParam3, const QString& xCO, const QString& xBranch);

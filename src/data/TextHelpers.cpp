@@ -2,8 +2,6 @@
 
 #include "data/Errors.h"
 
-#include <QComboBox>
-
 #include <algorithm>
 
 QString sfg_PADR(const QString& xString, QChar xChar, int xLength) {
@@ -24,17 +22,6 @@ QString sfg_StripCode(const QString& xString, QChar xCheckChar, const QString& x
 
 QString sfg_StripCodeSpace(const QString& xString) {
     return xString.section(QLatin1Char(' '), 0, 0);
-}
-
-int sfg_FindComboIndex(const QString& xString, const QComboBox& xComboBox, bool xStripCode) {
-    const QString wanted = xString.trimmed();
-    for (int index = 0; index < xComboBox.count(); ++index) {
-        const QString item = xComboBox.itemText(index);
-        if ((xStripCode ? sfg_StripCode(item, QLatin1Char('-'), "Y") : item.trimmed()) == wanted) {
-            return index;
-        }
-    }
-    return -1;
 }
 
 double sfg_IsNumeric(const QString& xString) {

@@ -1,9 +1,7 @@
-// Small helpers on text: filling, codes in combo boxes, numbers.
+// Small helpers on text: filling, codes, numbers.
 #pragma once
 
 #include <QString>
-
-class QComboBox;
 
 /// Filled on the right, or left, with xChar to xLength; never cut.
 QString sfg_PADR(const QString& xString, QChar xChar, int xLength);
@@ -12,9 +10,6 @@ QString sfg_PADL(const QString& xString, QChar xChar, int xLength);
 QString sfg_StripCode(const QString& xString, QChar xCheckChar, const QString& xKeepSpace);
 /// What stands before the first blank.
 QString sfg_StripCodeSpace(const QString& xString);
-/// First item equal to the text, both trimmed, case counting; with xStripCode only the item's code
-/// counts. -1 when there is none.
-int sfg_FindComboIndex(const QString& xString, const QComboBox& xComboBox, bool xStripCode);
 /// The number in the text; 0 for blank or anything but digits, "." and "-". Throws ConversionError
 /// for such characters that make no number.
 double sfg_IsNumeric(const QString& xString);

@@ -1,7 +1,7 @@
 #include "lookups/CRO900.h"
 
-#include "application/Settings.h"
 #include "data/Session.h"
+#include "data/Settings.h"
 #include "data/StatementText.h"
 
 #include <QFocusEvent>

@@ -1,7 +1,7 @@
 // Customer selection: picks a debtor.
 #pragma once
 
-#include "application/SelectionScreen.h"
+#include "screens/SelectionScreen.h"
 
 class TfrmCRO900 : public SelectionScreen
 {

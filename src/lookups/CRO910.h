@@ -1,7 +1,7 @@
 // Serial number selection: picks a serial-numbered article of the stock.
 #pragma once
 
-#include "application/SelectionScreen.h"
+#include "screens/SelectionScreen.h"
 
 class TfrmCRO910 : public SelectionScreen
 {

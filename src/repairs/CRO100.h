@@ -2,7 +2,7 @@
 // leads down to an order's header and to its items.
 #pragma once
 
-#include "application/ListScreen.h"
+#include "screens/ListScreen.h"
 
 #include <functional>
 

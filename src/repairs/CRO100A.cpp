@@ -11,6 +11,7 @@
 #include "data/TextHelpers.h"
 #include "data/Validators.h"
 #include "repairs/SysCRO.h"
+#include "screens/Combos.h"
 #include "ui/DateEdit.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // The header screen of a repair order: adds, changes and deletes one order of the register.
 #pragma once
 
-#include "application/DetailScreen.h"
+#include "screens/DetailScreen.h"
 
 class QComboBox;
 

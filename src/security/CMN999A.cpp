@@ -1,9 +1,9 @@
 #include "security/CMN999A.h"
 
-#include "application/SysFuncGlobal.h"
 #include "data/DateTimeText.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
+#include "screens/SysFuncGlobal.h"
 
 #include <QLabel>
 #include <QLineEdit>

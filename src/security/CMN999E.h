@@ -1,8 +1,8 @@
 // Picks one of the suite's databases from a list that can be searched by typing.
 #pragma once
 
-#include "application/Screen.h"
 #include "platform/sqlserver/RowSet.h"
+#include "screens/Screen.h"
 
 class QLineEdit;
 

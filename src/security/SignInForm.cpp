@@ -1,6 +1,6 @@
 #include "security/SignInForm.h"
 
-#include "application/SysFuncGlobal.h"
+#include "screens/SysFuncGlobal.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

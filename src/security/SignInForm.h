@@ -2,7 +2,7 @@
 // middle of the screen, their edits for codes and passwords, and OK and Cancel below them.
 #pragma once
 
-#include "application/Screen.h"
+#include "screens/Screen.h"
 #include "ui/FormBuilder.h"
 
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "security/SysLoadParams.h"
 
-#include "application/SysDataModel.h"
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
 #include "data/StatementText.h"
+#include "data/SysDataModel.h"
 #include "security/SettingsIndex.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "security/SysLogInForms.h"
 
-#include "application/DayEnd.h"
+#include "data/DayEnd.h"
 #include "data/Session.h"
 #include "security/CMN999.h"
 #include "ui/Modal.h"

@@ -1,10 +1,10 @@
 // The second half of the log-in: company, branch, period, shared branches, settings and programs.
-#include "application/Settings.h"
-#include "application/SysDataModel.h"
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
+#include "data/Settings.h"
 #include "data/StatementText.h"
+#include "data/SysDataModel.h"
 #include "data/SysLoadData.h"
 #include "security/LogInRead.h"
 #include "security/SysLoadAccess.h"

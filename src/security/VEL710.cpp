@@ -1,10 +1,11 @@
 #include "security/VEL710.h"
 
-#include "application/Settings.h"
 #include "data/DataUCMN.h"
+#include "data/Settings.h"
 #include "data/StatementText.h"
 #include "security/ReferencePage.h"
 #include "ui/FormBuilder.h"
+#include "ui/Modal.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -151,4 +152,10 @@ void TfrmVEL710::btnCloseClick() {
         }
     }
     reject();
+}
+
+void sfvel_TechHelp(const QString& xFormCode) {
+    TfrmVEL710 form;
+    form.xFormCode = xFormCode;
+    velcro::ui::runModal(form);
 }

@@ -2,8 +2,8 @@
 // they stand for the signed-in user.
 #pragma once
 
-#include "application/Screen.h"
 #include "platform/sqlserver/RowSet.h"
+#include "screens/Screen.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -35,3 +35,6 @@ private:
     QTabWidget* pages_ = nullptr;
     velcro::ui::KeyButton* btnSearch = nullptr;
 };
+
+/// Shows which rights, parameters and shortcuts govern the screen of that unit.
+void sfvel_TechHelp(const QString& xFormCode);

@@ -1,7 +1,7 @@
 #include "application/MachineConfiguration.h"
 
-#include "application/SessionFile.h"
 #include "data/Session.h"
+#include "data/SessionFile.h"
 #include "platform/seat/Folders.h"
 #include "support/TempFolder.h"
 

@@ -1,8 +1,8 @@
 #include "application/Program.h"
 
-#include "application/SessionFile.h"
 #include "data/DataModules.h"
 #include "data/Session.h"
+#include "data/SessionFile.h"
 #include "platform/seat/Folders.h"
 #include "support/Desk.h"
 #include "support/OrdinaryUser.h"

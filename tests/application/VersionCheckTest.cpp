@@ -1,10 +1,10 @@
 #include "application/VersionCheck.h"
 
-#include "application/ImageLists.h"
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
 #include "data/Errors.h"
 #include "data/Session.h"
+#include "screens/ImageLists.h"
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"

@@ -1,13 +1,14 @@
 #include "data/SysLoadData.h"
 
-#include "application/PeriodAndTax.h"
-#include "application/SysDataModel.h"
 #include "data/ComboLoaders.h"
 #include "data/DataModules.h"
 #include "data/Errors.h"
+#include "data/PeriodAndTax.h"
 #include "data/Prompts.h"
 #include "data/Session.h"
+#include "data/SysDataModel.h"
 #include "data/SysLoadCommon.h"
+#include "screens/Combos.h"
 #include "support/FailureOf.h"
 #include "support/FakeServer.h"
 

@@ -2,6 +2,7 @@
 
 #include "data/Errors.h"
 #include "data/Validators.h"
+#include "screens/Combos.h"
 
 #include <QComboBox>
 

@@ -1,6 +1,6 @@
 // The selections of customers and serial numbers, driven by a user over the sample databases.
-#include "application/SysDataModel.h"
 #include "data/Session.h"
+#include "data/SysDataModel.h"
 #include "lookups/CRO900.h"
 #include "lookups/CRO910.h"
 #include "repairs/SysCRO.h"

@@ -1,6 +1,6 @@
-#include "application/Settings.h"
 #include "data/DataModules.h"
 #include "data/Session.h"
+#include "security/VEL710.h"
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"

@@ -1,10 +1,10 @@
 #include "support/Desk.h"
 
 #include "application/MachineConfiguration.h"
-#include "application/PeriodAndTax.h"
 #include "application/SessionInit.h"
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
+#include "data/PeriodAndTax.h"
 #include "data/Prompts.h"
 #include "data/Session.h"
 #include "data/StatementText.h"

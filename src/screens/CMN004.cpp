@@ -1,0 +1,54 @@
+#include "screens/CMN004.h"
+
+#include "screens/SysFuncGlobal.h"
+#include "ui/Modal.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+constexpr MessageLook question{"frmCMN004", "System Prompt", "question", 0xff3a5ea4, 0xffffffff};
+}
+
+// Neither button is the default one: a hasty Enter must not answer.
+TfrmCMN004::TfrmCMN004(const QString& title, const QString& message)
+    : MessageForm(question) {
+    auto* memTitle = new QLabel(title, this);
+    memTitle->setObjectName(QStringLiteral("memTitle"));
+    memTitle->setTextFormat(Qt::PlainText);
+    memTitle->setWordWrap(true);
+    QFont font = memTitle->font();
+    font.setPointSizeF(font.pointSizeF() + 2);
+    font.setBold(true);
+    memTitle->setFont(font);
+    body().addWidget(memTitle);
+    addText(QStringLiteral("memMessage"), QStringLiteral("\r") + message, tr("Question"));
+    for (const bool yes : {true, false}) {
+        auto* button = addButton(yes ? QStringLiteral("btnYes") : QStringLiteral("btnNo"),
+                                 yes ? tr(" Yes") : tr(" No"),
+                                 yes ? QStringLiteral("Y") : QStringLiteral("N"));
+        connect(button, &QPushButton::clicked, this, [this, yes] { choose(yes); });
+        auto* action = new QAction(this);
+        action->setObjectName(yes ? QStringLiteral("acYes") : QStringLiteral("acNo"));
+        action->setShortcut(yes ? Qt::Key_Y : Qt::Key_N);
+        connect(action, &QAction::triggered, button, &QPushButton::click);
+        addAction(action);
+    }
+    setFocus();
+}
+
+void TfrmCMN004::choose(bool yes) {
+    answer_ = yes;
+    accept();
+}
+
+bool sfg_QuestionDlg(const QString& xTitle, const QString& xMessage) {
+    TfrmCMN004 form(xTitle, xMessage);
+    velcro::ui::runModal(form);
+    QApplication::processEvents();
+    return form.answer();
+}

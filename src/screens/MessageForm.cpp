@@ -1,0 +1,133 @@
+#include "screens/MessageForm.h"
+
+#include "screens/SysFuncGlobal.h"
+#include "ui/Icons.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+MessageForm::MessageForm(const MessageLook& look) {
+    setObjectName(QLatin1String(look.unit));
+    setWindowTitle(QLatin1String(look.caption));
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    whole->addWidget(makeBand(look));
+    body_ = new QVBoxLayout;
+    body_->setContentsMargins(20, 14, 20, 6);
+    body_->setSpacing(6);
+    whole->addLayout(body_, 1);
+    buttons_ = new QHBoxLayout;
+    buttons_->setContentsMargins(20, 8, 20, 14);
+    buttons_->setSpacing(12);
+    buttons_->addStretch();
+    whole->addLayout(buttons_);
+    resize(560, 300);
+}
+
+QWidget* MessageForm::makeBand(const MessageLook& look) {
+    auto* band = new QWidget(this);
+    QPalette colors = band->palette();
+    colors.setColor(QPalette::Window, QColor(look.band));
+    colors.setColor(QPalette::WindowText, QColor(look.ink));
+    band->setPalette(colors);
+    band->setAutoFillBackground(true);
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(20, 10, 20, 10);
+    row->setSpacing(14);
+    auto* picture = new QLabel(band);
+    picture->setPixmap(velcro::ui::icon(QLatin1String(look.picture), QColor(look.ink))
+                           .pixmap(QSize(36, 36), devicePixelRatioF()));
+    auto* title = new QLabel(QLatin1String(look.caption), band);
+    title->setPalette(colors);
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() + 3);
+    font.setBold(true);
+    title->setFont(font);
+    row->addWidget(picture);
+    row->addWidget(title, 1);
+    return band;
+}
+
+QPlainTextEdit* MessageForm::addText(const QString& name, const QString& text,
+                                     const QString& spoken) {
+    auto* edit = new QPlainTextEdit(this);
+    edit->setObjectName(name);
+    edit->setAccessibleName(spoken);
+    edit->setReadOnly(true);
+    edit->setFrameShape(QFrame::NoFrame);
+    edit->setFocusPolicy(Qt::ClickFocus);
+    QFont font = edit->font();
+    font.setPointSizeF(font.pointSizeF() + 1);
+    edit->setFont(font);
+    edit->setPlainText(text);
+    body_->addWidget(edit, 1);
+    return edit;
+}
+
+QLabel* MessageForm::addFact(const QString& name, const QString& title, const QString& value,
+                             QHBoxLayout* beside) {
+    auto* row = beside != nullptr ? beside : new QHBoxLayout;
+    auto* caption = new QLabel(title, this);
+    caption->setMinimumWidth(beside != nullptr ? 0 : 160);
+    auto* label = new QLabel(value, this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    row->addWidget(caption);
+    row->addWidget(label, 1);
+    if (beside == nullptr) {
+        body_->addLayout(row);
+    }
+    return label;
+}
+
+QPushButton* MessageForm::addButton(const QString& name, const QString& caption,
+                                    const QString& key) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    button->setMinimumSize(140, 44);
+    sfg_ImageKeybd16(*button, key);
+    if (!button->icon().isNull() && !caption.startsWith(QLatin1Char(' '))) {
+        button->setText(QLatin1Char(' ') + caption); // off the key cap
+    }
+    buttons_->addWidget(button);
+    return button;
+}
+
+QPushButton* MessageForm::addCloseButton(const QString& caption) {
+    auto* button = addButton(QStringLiteral("btnClose"), caption, QStringLiteral("ENTER"));
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    auto* acClose = new QAction(this);
+    acClose->setObjectName(QStringLiteral("acClose"));
+    acClose->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    connect(acClose, &QAction::triggered, button, [button] { button->click(); });
+    addAction(acClose);
+    button->setFocus();
+    return button;
+}
+
+void MessageForm::centre(int xLeft) {
+    move(sfg_SetFormLeft(*this, xLeft), sfg_SetFormTop(*this, 0));
+}
+
+void MessageForm::closeAfter(int milliseconds) {
+    closeAfter_ = milliseconds;
+}
+
+void MessageForm::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (closeAfter_ > 0) {
+        QTimer::singleShot(closeAfter_, this, &QDialog::accept);
+    }
+}

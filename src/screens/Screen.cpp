@@ -1,0 +1,113 @@
+#include "screens/Screen.h"
+
+#include "platform/seat/SystemMenu.h"
+#include "screens/ScreenServices.h"
+#include "screens/SysStatusBar.h"
+#include "ui/Theme.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QShowEvent>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using velcro::ui::KeyButton;
+
+namespace {
+
+constexpr int messagePanel = 1; // message panels are counted from here, whatever stands before them
+constexpr QSize largestSize(1600, 1000);
+
+} // namespace
+
+Screen::Screen(const QString& unit, const QString& caption, QWidget* parent)
+    : QDialog(parent)
+    , unit_(unit) {
+    setObjectName(QStringLiteral("Tfrm") + unit);
+    setWindowTitle(caption);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    body_ = new QVBoxLayout;
+    whole->addLayout(body_, 1);
+    makeStatusBar();
+    whole->addWidget(statusBar_);
+    resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(largestSize));
+    create(); // winId() by itself would give every control of the parent a window of its own
+    inSystemMenu_ = velcro::seat::appendToSystemMenu(winId(), techHelpCommand,
+                                                     QStringLiteral("Technical Reference"));
+}
+
+void Screen::makeStatusBar() {
+    using velcro::ui::psHTML;
+    using velcro::ui::psText;
+    statusBar_ = new velcro::ui::StatusBar(this);
+    statusBar_->addPanel(psHTML, unit_);
+    statusBar_->addPanel(psText, windowTitle());
+    statusBar_->addPanel(psHTML, {}, -1);
+    statusBar_->setPanelDrawer(
+        [](velcro::ui::StatusBar& bar, QPainter& painter, int panel, const QRect& rect) {
+            sfg_StatusBarDisplay(bar, painter, panel, rect);
+        });
+}
+
+void Screen::displayError(const QString& message) {
+    displayMessage(QStringLiteral("Error"), message);
+}
+
+void Screen::displayMessage(const QString& type, const QString& message) {
+    sfg_DisplayBar(type, message, *statusBar_, messagePanel);
+}
+
+void Screen::resetStatusBar() {
+    sfg_ResetStatusBar(*statusBar_, messagePanel);
+}
+
+KeyButton* Screen::newButton(const QString& name, const QString& caption, const QString& keyCap) {
+    auto* button = new KeyButton(caption, this);
+    button->setObjectName(name);
+    button->setAccessibleName(caption.simplified());
+    button->setKeyCap(keyCap);
+    return button;
+}
+
+QToolButton* Screen::newTechHelpButton() {
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("btnTechHelp"));
+    button->setText(QStringLiteral("?"));
+    button->setToolTip(QStringLiteral("Technical Reference"));
+    button->setAccessibleName(QStringLiteral("Technical Reference"));
+    button->setMinimumSize(velcro::ui::touchHeight, velcro::ui::touchHeight);
+    button->setEnabled(bool(gScreenServices.techHelp));
+    button->setVisible(!inSystemMenu_);
+    velcro::ui::connectHandler(button, &QToolButton::clicked, this, [this] { techHelp(); });
+    return button;
+}
+
+void Screen::bindKey(const QKeySequence& key, QAbstractButton* button) {
+    bindKey(key, button, [button] { button->click(); });
+}
+
+void Screen::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        velcro::ui::guarded([this] { FormShow(); });
+    }
+}
+
+void Screen::techHelp() {
+    if (gScreenServices.techHelp) {
+        gScreenServices.techHelp(unit_);
+    }
+}
+
+bool Screen::nativeEvent(const QByteArray& eventType, void* message, qintptr* result) {
+    if (velcro::seat::systemMenuCommand(eventType, message) != techHelpCommand) {
+        return QDialog::nativeEvent(eventType, message, result);
+    }
+    velcro::ui::guarded([this] { techHelp(); });
+    *result = 0;
+    return true;
+}
