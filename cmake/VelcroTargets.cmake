@@ -16,6 +16,9 @@ function(velcro_sources out)
   set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
+# What every test runs with.
+set(test_environment "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+
 # velcro_test(name LIBRARIES ... SOURCES ...): one program; each source file XxxTest.cpp holds the
 # suite XxxTest (any number of tests) and becomes one test of ctest.
 function(velcro_test name)
@@ -28,8 +31,7 @@ function(velcro_test name)
     if(suite MATCHES "Test$")
       add_test(NAME ${name}.${suite}
                COMMAND ${name} --gtest_brief=1 --gtest_filter=${suite}.*:*/${suite}.*)
-      set_tests_properties(${name}.${suite} PROPERTIES ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+      set_tests_properties(${name}.${suite} PROPERTIES ENVIRONMENT "${test_environment}")
     endif()
   endforeach()
 endfunction()

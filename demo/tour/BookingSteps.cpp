@@ -6,7 +6,6 @@
 
 #include "data/DateTimeText.h"
 #include "data/Session.h"
-#include "ui/RowGrid.h"
 
 namespace {
 
@@ -58,35 +57,11 @@ const char* const billingEntries[][2] = {
     {"edEMail", "EMail"},
 };
 
-int rowCount(Tour& tour, QDialog& list) {
-    return tour.find<velcro::ui::RowGrid>(list, QString()).rowModel().rowCount();
-}
-
-QString current(Tour& tour, QDialog& list, const QString& field) {
-    auto& grid = tour.find<velcro::ui::RowGrid>(list, QString());
-    const auto& columns = grid.rowModel().columns();
-    for (int i = 0; i < int(columns.size()); ++i) {
-        if (columns[std::size_t(i)].field == field) {
-            return grid.rowModel().text(grid.currentIndex().row(), i);
-        }
-    }
-    return {};
-}
-
 /// Alt+S, the text, Enter.
-void searchFor(Tour& tour, QDialog& list, const QString& text) {
-    tour.press(list, Qt::Key_S, Qt::AltModifier);
-    tour.type(list, text);
-    tour.press(list, Qt::Key_Return);
-}
-
-/// Tab by Tab to the control, as somebody without a mouse gets there.
-void tabTo(Tour& tour, QDialog& form, const QString& control) {
-    for (int i = 0; i < 40 && form.focusWidget()->objectName() != control; ++i) {
-        tour.press(form, Qt::Key_Tab);
-    }
-    tour.check(form.focusWidget()->objectName() == control,
-               QStringLiteral("the tab key leads to ") + control);
+void searchFor(Tour& tour, const QString& text) {
+    tour.press(Qt::Key_S, Qt::AltModifier);
+    tour.type(text);
+    tour.press(Qt::Key_Return);
 }
 
 void checkRow(Tour& tour, const QString& order, const Values& expected) {
@@ -104,90 +79,90 @@ void checkRow(Tour& tour, const QString& order, const Values& expected) {
     }
 }
 
-void pickCustomer(Tour& tour, QDialog& form) {
-    tour.expect(customersTitle, QStringLiteral("customers"), [&tour](QDialog& customers) {
-        const int all = rowCount(tour, customers);
-        searchFor(tour, customers, QStringLiteral("C0000"));
-        tour.check(rowCount(tour, customers) > 1 && rowCount(tour, customers) < all,
+void pickCustomer(Tour& tour) {
+    tour.expect(customersTitle, QStringLiteral("customers"), [&tour] {
+        const int all = tour.rowCount();
+        searchFor(tour, QStringLiteral("C0000"));
+        tour.check(tour.rowCount() > 1 && tour.rowCount() < all,
                    QStringLiteral("the search narrows the customers"));
-        tour.press(customers, Qt::Key_Home);
-        for (int i = 0; i < 10 && current(tour, customers, "Account") != "C00002"; ++i) {
-            tour.press(customers, Qt::Key_Down);
+        tour.press(Qt::Key_Home);
+        for (int i = 0; i < 10 && tour.current("Account") != "C00002"; ++i) {
+            tour.press(Qt::Key_Down);
         }
-        tour.picture(customers, QStringLiteral("customers-found"));
-        tour.press(customers, Qt::Key_Return);
+        tour.picture(QStringLiteral("customers-found"));
+        tour.press(Qt::Key_Return);
     });
-    tour.type(form, QStringLiteral("?"));
-    tour.press(form, Qt::Key_Return);
+    tour.type(QStringLiteral("?"));
+    tour.press(Qt::Key_Return);
 }
 
-void fillOrder(Tour& tour, QDialog& form, const Values& row) {
+void fillOrder(Tour& tour, const Values& row) {
     tour.say(QStringLiteral("Shift+Tab leads back to the reference, Enter on from edit to edit."));
-    tour.press(form, Qt::Key_Backtab, Qt::ShiftModifier);
-    tour.type(form, row["Reference"]);
-    tour.press(form, Qt::Key_Return);
-    tour.press(form, Qt::Key_Return); // the order date stays today
-    tour.type(form, row["ReceiveDate"]);
-    tour.press(form, Qt::Key_Return);
-    tour.type(form, QStringLiteral("P")); // to PICKUP in the list
-    tour.press(form, Qt::Key_Return);
+    tour.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    tour.type(row["Reference"]);
+    tour.press(Qt::Key_Return);
+    tour.press(Qt::Key_Return); // the order date stays today
+    tour.type(row["ReceiveDate"]);
+    tour.press(Qt::Key_Return);
+    tour.type(QStringLiteral("P")); // to PICKUP in the list
+    tour.press(Qt::Key_Return);
     tour.say(QStringLiteral("\"?\" in the account opens the customers, Alt+S searches them."));
-    pickCustomer(tour, form);
+    pickCustomer(tour);
     for (const auto& [control, column] : billingEntries) {
-        tabTo(tour, form, control);
-        tour.type(form, row[column]);
+        tour.tabTo(control);
+        tour.type(row[column]);
     }
 }
 
-void bookIn(Tour& tour, QDialog& list) {
-    const int before = rowCount(tour, list);
+void bookIn(Tour& tour) {
+    const int before = tour.rowCount();
     Values row = bookedRow();
     tour.say(QStringLiteral("Insert books in an order; F10 without a customer is refused."));
-    tour.expect(headerTitle, QStringLiteral("booking-new"), [&](QDialog& form) {
-        tour.press(form, Qt::Key_F10);
-        tour.picture(form, QStringLiteral("booking-refused"));
-        tabTo(tour, form, "edTranDate");
-        fillOrder(tour, form, row);
-        tour.picture(form, QStringLiteral("booking-filled"));
+    tour.expect(headerTitle, QStringLiteral("booking-new"), [&] {
+        tour.press(Qt::Key_F10);
+        tour.picture(QStringLiteral("booking-refused"));
+        tour.tabTo("edTranDate");
+        fillOrder(tour, row);
+        tour.picture(QStringLiteral("booking-filled"));
         tour.say(QStringLiteral("F10 saves."));
-        tour.press(form, Qt::Key_F10);
+        tour.press(Qt::Key_F10);
     });
-    tour.press(list, Qt::Key_Insert);
-    tour.check(rowCount(tour, list) == before + 1 && current(tour, list, "CRONo") == newOrder,
+    tour.press(Qt::Key_Insert);
+    tour.check(tour.rowCount() == before + 1 && tour.current("Order #No") == newOrder,
                QStringLiteral("the new order stands first in the register"));
-    tour.picture(list, QStringLiteral("register-booked"));
+    tour.picture(QStringLiteral("register-booked"));
     checkRow(tour, newOrder, row);
 }
 
-void change(Tour& tour, QDialog& list) {
+void change(Tour& tour) {
     Values row = bookedRow();
     row["Cellphone"] = "0835550142";
     row["Reference"] = "KETTLE-8";
     tour.say(QStringLiteral("Ctrl+Enter changes it."));
-    tour.expect(headerTitle, QStringLiteral("booking-change"), [&](QDialog& form) {
+    tour.expect(headerTitle, QStringLiteral("booking-change"), [&] {
         for (const auto& [control, column] :
              {std::pair("edCellphone", "Cellphone"), std::pair("edReference", "Reference")}) {
-            tabTo(tour, form, control);
-            tour.type(form, row[column]);
+            tour.tabTo(control);
+            tour.type(row[column]);
         }
-        tour.picture(form, QStringLiteral("booking-changed"));
-        tour.press(form, Qt::Key_F10);
+        tour.picture(QStringLiteral("booking-changed"));
+        tour.press(Qt::Key_F10);
     });
-    tour.press(list, Qt::Key_Return, Qt::ControlModifier);
-    tour.check(current(tour, list, "Reference") == row["Reference"],
+    tour.press(Qt::Key_Return, Qt::ControlModifier);
+    tour.check(tour.current("Reference") == row["Reference"],
                QStringLiteral("the register shows the change on the order it stands on"));
     checkRow(tour, newOrder, row);
 }
 
-void findAgain(Tour& tour, QDialog& list) {
-    const int all = rowCount(tour, list);
+void findAgain(Tour& tour) {
+    const int all = tour.rowCount();
     tour.say(QStringLiteral("Alt+S finds it by its reference, Ctrl+R shows all orders again."));
-    searchFor(tour, list, QStringLiteral("KETTLE"));
-    tour.check(rowCount(tour, list) == 1 && current(tour, list, "CRONo") == newOrder,
+    searchFor(tour, QStringLiteral("KETTLE"));
+    tour.check(tour.rowCount() == 1 && tour.current("Order #No") == newOrder,
                QStringLiteral("the search finds the new order alone"));
-    tour.picture(list, QStringLiteral("register-order-found"));
-    tour.press(list, Qt::Key_R, Qt::ControlModifier);
-    tour.check(rowCount(tour, list) == all, QStringLiteral("all orders are there again"));
+    tour.picture(QStringLiteral("register-order-found"));
+    tour.press(Qt::Key_R, Qt::ControlModifier);
+    tour.check(tour.rowCount() == all, QStringLiteral("all orders are there again"));
 }
 
 /// Rows of the order in its own table and in all tables below it.
@@ -203,36 +178,35 @@ int rowsOf(const QString& order) {
     return rows;
 }
 
-void remove(Tour& tour, QDialog& list) {
-    const int before = rowCount(tour, list);
+void remove(Tour& tour) {
+    const int before = tour.rowCount();
     const int others = rowsOf(newOrder);
     tour.check(rowsOf(oldOrder) > 1, QStringLiteral("the old order has rows below it"));
     tour.say(QStringLiteral("Delete and F10 take another order with everything below it."));
-    searchFor(tour, list, oldOrder);
-    tour.expect(headerTitle, QStringLiteral("booking-delete"), [&tour](QDialog& form) {
-        tour.check(!tour.find<QWidget>(form, "pnlMain").isEnabled(),
+    searchFor(tour, oldOrder);
+    tour.expect(headerTitle, QStringLiteral("booking-delete"), [&tour] {
+        tour.check(!tour.find<QWidget>("pnlMain").isEnabled(),
                    QStringLiteral("an order that is to be deleted cannot be changed"));
-        tour.press(form, Qt::Key_F10);
+        tour.press(Qt::Key_F10);
     });
-    tour.press(list, Qt::Key_Delete);
+    tour.press(Qt::Key_Delete);
     tour.check(rowsOf(oldOrder) == 0, QStringLiteral("nothing of the order is left"));
     tour.check(rowsOf(newOrder) == others, QStringLiteral("the other order is as it was"));
-    tour.check(rowCount(tour, list) == before - 1,
-               QStringLiteral("the register has one order less"));
-    tour.picture(list, QStringLiteral("register-deleted"));
+    tour.check(tour.rowCount() == before - 1, QStringLiteral("the register has one order less"));
+    tour.picture(QStringLiteral("register-deleted"));
 }
 
 } // namespace
 
-void addBooking(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("Booking in, by keyboard alone."), [&tour, &menu] {
-        tour.expect(registerTitle, QStringLiteral("register-before"), [&tour](QDialog& list) {
-            bookIn(tour, list);
-            change(tour, list);
-            findAgain(tour, list);
-            remove(tour, list);
-            tour.press(list, Qt::Key_Escape);
+void addBooking(Tour& tour) {
+    tour.then(QStringLiteral("Booking in, by keyboard alone."), [&tour] {
+        tour.expect(registerTitle, QStringLiteral("register-before"), [&tour] {
+            bookIn(tour);
+            change(tour);
+            findAgain(tour);
+            remove(tour);
+            tour.press(Qt::Key_Escape);
         });
-        tour.press(menu, Qt::Key_F2);
+        tour.press(Qt::Key_F2);
     });
 }

@@ -12,7 +12,7 @@ namespace {
 void addMessage(Tour& tour, const QString& text, const QString& title, const QString& name,
                 Tour::Step show) {
     tour.then(text, [&tour, title, name, show = std::move(show)] {
-        tour.expect(title, name, [&tour](QDialog& form) { tour.press(form, Qt::Key_Return); });
+        tour.expect(title, name, [&tour] { tour.press(Qt::Key_Return); });
         show();
     });
 }

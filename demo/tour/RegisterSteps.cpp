@@ -13,8 +13,8 @@ namespace {
 
 const QString title = QStringLiteral("Workshop Centre: Repair Orders Management");
 
-void sortByName(Tour& tour, QDialog& form) {
-    auto& grid = tour.find<velcro::ui::RowGrid>(form, QString());
+void sortByName(Tour& tour) {
+    auto& grid = tour.find<velcro::ui::RowGrid>(QString());
     const auto columns = grid.rowModel().columns();
     const auto name = std::ranges::find(columns, QStringLiteral("Name"),
                                         [](const auto& column) { return column.heading(); });
@@ -23,43 +23,41 @@ void sortByName(Tour& tour, QDialog& form) {
     QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
                       QPoint(header->sectionViewportPosition(section) + 20, 12));
     tour.say(QStringLiteral("A click on the heading sorts by name."));
-    tour.picture(form, QStringLiteral("register-sorted"));
+    tour.picture(QStringLiteral("register-sorted"));
 }
 
-void search(Tour& tour, QDialog& form) {
+void search(Tour& tour) {
     tour.say(QStringLiteral("Alt+S drops the search panel in; Enter searches."));
-    tour.click(form, QStringLiteral("btnLookup"));
-    tour.type(form, QStringLiteral("mar"));
-    tour.picture(form, QStringLiteral("register-search"));
-    const int all = tour.find<velcro::ui::RowGrid>(form, QString()).rowModel().rowCount();
-    tour.press(form, Qt::Key_Return);
-    const int found = tour.find<velcro::ui::RowGrid>(form, QString()).rowModel().rowCount();
+    tour.click(QStringLiteral("btnLookup"));
+    tour.type(QStringLiteral("mar"));
+    tour.picture(QStringLiteral("register-search"));
+    const int all = tour.rowCount();
+    tour.press(Qt::Key_Return);
+    const int found = tour.rowCount();
     tour.check(found > 0 && found < all, QStringLiteral("the search narrows the list"));
-    tour.picture(form, QStringLiteral("register-found"));
-    tour.press(form, Qt::Key_R, Qt::ControlModifier);
-    tour.check(tour.find<velcro::ui::RowGrid>(form, QString()).rowModel().rowCount() == all,
-               QStringLiteral("Ctrl+R shows the whole list again"));
+    tour.picture(QStringLiteral("register-found"));
+    tour.press(Qt::Key_R, Qt::ControlModifier);
+    tour.check(tour.rowCount() == all, QStringLiteral("Ctrl+R shows the whole list again"));
 }
 
-void look(Tour& tour, QDialog& form) {
-    sortByName(tour, form);
-    search(tour, form);
+void look(Tour& tour) {
+    sortByName(tour);
+    search(tour);
     tour.say(QStringLiteral("The technical reference of the screen."));
-    tour.expect({}, QStringLiteral("technical-reference"),
-                [&tour](QDialog& page) { tour.press(page, Qt::Key_Escape); });
-    tour.click(form, QStringLiteral("btnTechHelp"));
+    tour.expect({}, QStringLiteral("technical-reference"), [&tour] { tour.press(Qt::Key_Escape); });
+    tour.click(QStringLiteral("btnTechHelp"));
     tour.say(QStringLiteral("Ctrl+P shows what would be printed."));
-    tour.expect({}, QStringLiteral("register-print"), [](QDialog& preview) { preview.reject(); });
-    tour.press(form, Qt::Key_P, Qt::ControlModifier);
-    tour.press(form, Qt::Key_Escape);
+    tour.expect({}, QStringLiteral("register-print"),
+                [&tour] { static_cast<QDialog&>(tour.form()).reject(); });
+    tour.press(Qt::Key_P, Qt::ControlModifier);
+    tour.press(Qt::Key_Escape);
 }
 
 } // namespace
 
-void addRegister(Tour& tour, TfrmMAIN000& menu) {
-    tour.then(QStringLiteral("F2 opens the register of repair orders."), [&tour, &menu] {
-        tour.expect(title, QStringLiteral("register"),
-                    [&tour](QDialog& form) { look(tour, form); });
-        tour.press(menu, Qt::Key_F2);
+void addRegister(Tour& tour) {
+    tour.then(QStringLiteral("F2 opens the register of repair orders."), [&tour] {
+        tour.expect(title, QStringLiteral("register"), [&tour] { look(tour); });
+        tour.press(Qt::Key_F2);
     });
 }

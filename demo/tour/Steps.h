@@ -8,10 +8,10 @@
 /// The log-in, by keyboard. The main form opens it by itself, before the road begins.
 void expectLogIn(Tour& tour);
 
-void addMenus(Tour& tour, TfrmMAIN000& menu);
-void addRegister(Tour& tour, TfrmMAIN000& menu);
-void addBooking(Tour& tour, TfrmMAIN000& menu);
+void addMenus(Tour& tour);
+void addRegister(Tour& tour);
+void addBooking(Tour& tour);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
 /// The last steps: the program ends.
-void addExit(Tour& tour, TfrmMAIN000& menu);
+void addExit(Tour& tour);

@@ -48,14 +48,14 @@ int walk(int argc, char** argv) {
     Tour tour(QString::fromLocal8Bit(argv[1]));
     Program program({});
     expectLogIn(tour);
-    addMenus(tour, program.mainForm());
-    addRegister(tour, program.mainForm());
-    addBooking(tour, program.mainForm());
+    addMenus(tour);
+    addRegister(tour);
+    addBooking(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());
-    addExit(tour, program.mainForm());
+    addExit(tour);
     QObject::connect(&program.mainForm(), &TfrmMAIN000::menuIsLive, &application,
-                     [&tour] { tour.start(); });
+                     [&] { tour.start(program.mainForm()); });
     const int status = program.run();
     return status != 0 || !tour.arrived() ? 1 : 0;
 }
