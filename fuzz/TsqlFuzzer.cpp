@@ -1,9 +1,9 @@
 // Fuzzes the T-SQL front: no text may crash or hang it, and what it takes it must take again in its
 // own spelling, with the same tree.
-#include "platform/sqlserver/embedded/Errors.h"
-#include "platform/sqlserver/embedded/Parser.h"
-#include "platform/sqlserver/embedded/Shape.h"
-#include "platform/sqlserver/embedded/TreeText.h"
+#include "tsql/syntax/Parser.h"
+#include "tsql/syntax/Shape.h"
+#include "tsql/syntax/TreeText.h"
+#include "tsql/values/Errors.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -3,7 +3,7 @@
 #include "data/Errors.h"
 #include "data/Prompts.h"
 #include "data/Statement.h"
-#include "platform/sqlserver/embedded/EmbeddedConnection.h"
+#include "platform/sqlserver/EmbeddedConnection.h"
 
 #include <QTimer>
 

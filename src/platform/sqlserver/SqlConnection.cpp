@@ -1,6 +1,6 @@
 #include "platform/sqlserver/SqlConnection.h"
 
-#include "platform/sqlserver/embedded/EmbeddedConnection.h"
+#include "platform/sqlserver/EmbeddedConnection.h"
 #include "platform/sqlserver/odbc/OdbcConnection.h"
 
 namespace velcro::sql {

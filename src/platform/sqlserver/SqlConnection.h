@@ -2,18 +2,13 @@
 // embedded stand-in. Text is UTF-8 T-SQL, sent as it is written.
 #pragma once
 
-#include "platform/sqlserver/RowSet.h"
-#include "platform/sqlserver/SqlError.h"
+#include "tsql/values/Exchange.h"
 
-#include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
-#include <vector>
 
 namespace velcro::sql {
 
@@ -31,35 +26,12 @@ struct ConnectionSettings
     bool createDatabase = false; // the stand-in may make the database, if its folder is there
 };
 
-struct Blob
-{
-    std::string bytes;
-};
-
-/// A value bound to a :Name in the text. Text goes as nvarchar(max), Blob as varbinary(max).
-struct Parameter
-{
-    std::string name; // without the colon; case does not count
-    std::variant<std::monostate, std::int64_t, double, std::string, Blob> value;
-};
-
-/// What one statement of a batch gave: rows, or how many rows it touched (-1 where the server does
-/// not say, such as for DDL).
-struct StatementResult
-{
-    std::optional<RowSet> rows;
-    std::int64_t affected = -1;
-    /// What a real server said beside it: what PRINT prints, warnings, and, in the place of a failed
-    /// statement, its errors. The first error of a batch is thrown as well, at the batch's end.
-    std::vector<SqlMessage> messages;
-};
-
 /// One connection, used by one thread. Every operation throws SqlError. A connection that was lost
 /// stays unusable until connect() is called again.
 class SqlConnection
 {
 public:
-    using OnResult = std::function<void(StatementResult&&)>;
+    using OnResult = sql::OnResult;
 
     virtual ~SqlConnection() = default;
 

@@ -1,9 +1,9 @@
 // Takes a whole result from the driver, many rows at a call.
 #pragma once
 
-#include "platform/sqlserver/RowSet.h"
 #include "platform/sqlserver/odbc/Diagnostics.h"
 #include "platform/sqlserver/odbc/DriverChoice.h"
+#include "tsql/values/RowSet.h"
 
 #include <stdexcept>
 

@@ -1,8 +1,8 @@
 // What a driver says about a call, in the server's terms.
 #pragma once
 
-#include "platform/sqlserver/SqlError.h"
 #include "platform/sqlserver/odbc/OdbcApi.h"
+#include "tsql/values/SqlError.h"
 
 #include <optional>
 #include <string>

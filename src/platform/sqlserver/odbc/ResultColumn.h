@@ -1,8 +1,8 @@
 // One column of a result on its way from the driver: how its cells are asked for and kept.
 #pragma once
 
-#include "platform/sqlserver/RowSet.h"
 #include "platform/sqlserver/odbc/DriverChoice.h"
+#include "tsql/values/RowSet.h"
 
 #include <memory>
 #include <stdexcept>

@@ -1,0 +1,58 @@
+#include "platform/sqlserver/EmbeddedConnection.h"
+
+#include "tsql/session/Session.h"
+
+namespace velcro::sql {
+
+namespace {
+
+tsql::DatabaseSettings databaseOf(const ConnectionSettings& settings) {
+    std::string_view folder = settings.server;
+    if (folder.starts_with(embeddedPrefix)) {
+        folder.remove_prefix(embeddedPrefix.size());
+    }
+    return {.folder = std::string(folder),
+            .name = settings.database,
+            .openTimeoutSeconds = settings.connectTimeoutSeconds,
+            .readOnly = settings.readOnlyIntent,
+            .autoCommit = settings.autoCommit,
+            .create = settings.createDatabase};
+}
+
+class EmbeddedConnection : public SqlConnection
+{
+public:
+    void connect(const ConnectionSettings& settings) override {
+        disconnect();
+        session_ = std::make_unique<tsql::Session>(databaseOf(settings));
+    }
+    void disconnect() noexcept override { session_.reset(); }
+    bool isConnected() const override { return session_ != nullptr; }
+
+    void run(std::string_view batch, std::span<const Parameter> parameters,
+             const OnResult& onResult) override {
+        session(batch).run(batch, parameters, onResult);
+    }
+    void begin() override { session({}).begin(); }
+    void commit() override { session({}).commit(); }
+    void rollback() override { session({}).rollback(); }
+
+private:
+    tsql::Session& session(std::string_view batch) const {
+        if (!session_) {
+            throw SqlError(SqlErrorKind::NotConnected, "08003",
+                           {0, 16, 1, 0, "The connection is not open."}, std::string(batch));
+        }
+        return *session_;
+    }
+
+    std::unique_ptr<tsql::Session> session_;
+};
+
+} // namespace
+
+std::unique_ptr<SqlConnection> createEmbeddedConnection() {
+    return std::make_unique<EmbeddedConnection>();
+}
+
+} // namespace velcro::sql
