@@ -1,7 +1,12 @@
 #include "screens/DetailScreen.h"
 
 #include "data/DataUVEL.h"
+#include "data/Errors.h"
+#include "data/Prompts.h"
+#include "data/Session.h"
+#include "data/Statement.h"
 #include "data/StatementText.h"
+#include "data/SysLoadData.h"
 #include "screens/SysFuncGlobal.h"
 #include "ui/DateEdit.h"
 
@@ -17,6 +22,7 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
 using velcro::ui::connectHandler;
 using velcro::ui::DateEdit;
 using velcro::ui::KeyButton;
@@ -32,15 +38,26 @@ void mark(QWidget* control, const char* property, bool on) {
     control->style()->polish(control);
 }
 
+bool isChangeable(const QWidget& control) {
+    return (control.focusPolicy() & Qt::TabFocus) != 0;
+}
+
 } // namespace
 
-DetailScreen::DetailScreen(const QString& unit, const QString& caption, const QString& saveCaption,
-                           QWidget* parent)
-    : Screen(unit, caption, parent) {
+DetailScreen::DetailScreen(DetailFacts facts, QWidget* parent)
+    : Screen(facts.unit, facts.caption, parent)
+    , facts_(std::move(facts)) {
+    makeForm();
+    makeButtons();
+    bindKey(Qt::Key_F10, btnSave);
+    bindKey(Qt::Key_Escape, btnCancel);
+}
+
+void DetailScreen::makeForm() {
     pnlMain = new QWidget;
-    pnlMain->setObjectName(QStringLiteral("pnlMain"));
+    pnlMain->setObjectName(u"pnlMain"_s);
     auto* area = new QScrollArea(this);
-    area->setObjectName(QStringLiteral("scrMain"));
+    area->setObjectName(u"scrMain"_s);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
@@ -54,17 +71,24 @@ DetailScreen::DetailScreen(const QString& unit, const QString& caption, const QS
                                 control.width() / 2 + margin, control.height() / 2 + margin);
         }
     });
-    makeButtons(saveCaption);
-    bindKey(Qt::Key_F10, btnSave);
-    bindKey(Qt::Key_Escape, btnCancel);
+    form_ = std::make_unique<DetailForm>(facts_, pnlMain);
+    for (const auto& field : form_->fields()) {
+        if (field.stated->kind != DetailField::Kind::Memo) { // Enter begins a line there
+            field.control->installEventFilter(this);
+        }
+        if (auto* date = qobject_cast<DateEdit*>(field.control)) {
+            connectHandler(date, &DateEdit::dateRefused, this, [this, date] {
+                refuse(date, date->accessibleName() + u" is not a date. Type it as yyyy/mm/dd."_s);
+            });
+        }
+    }
 }
 
 // Save stands at the bottom right, where the thumb is.
-void DetailScreen::makeButtons(const QString& saveCaption) {
-    btnKeyboard = newButton(QStringLiteral("btnKeyboard"), QStringLiteral("Touch Keyboard"), {});
-    btnCancel = newButton(QStringLiteral("btnCancel"), QStringLiteral("Close Window"),
-                          QStringLiteral("ESC"));
-    btnSave = newButton(QStringLiteral("btnSave"), saveCaption, QStringLiteral("F10"));
+void DetailScreen::makeButtons() {
+    btnKeyboard = newButton(u"btnKeyboard"_s, u"Touch Keyboard"_s, {});
+    btnCancel = newButton(u"btnCancel"_s, u"Close Window"_s, u"ESC"_s);
+    btnSave = newButton(u"btnSave"_s, facts_.saveCaption, u"F10"_s);
     btnSave->setRole(KeyButton::Role::Main);
     btnKeyboard->setFocusPolicy(Qt::NoFocus); // the edit that is typed into keeps the focus
     connectHandler(btnKeyboard, &KeyButton::clicked, this, [] { sfg_ShowTouchKeyboard(); });
@@ -85,48 +109,111 @@ void DetailScreen::makeButtons(const QString& saveCaption) {
     btnSave->installEventFilter(this);
 }
 
+void DetailScreen::lookUp(const char* name, LookUp::Rules rules) {
+    new LookUp(*this, *control(name), std::move(rules));
+}
+
 void DetailScreen::FormShow() {
     // Before anything can fail: a delete must never look like a save.
     showMode();
-    watchDates();
     try {
         setDefaults();
         if (!adding()) {
             ExtractData();
+            lockKeys();
         }
     } catch (...) {
         saveNothing();
         throw;
     }
-    if (deleting()) {
-        btnSave->setFocus();
-    } else if (firstControl_ != nullptr) {
-        firstControl_->setFocus();
-    }
+    focusFirst();
 }
 
 void DetailScreen::showMode() {
     if (deleting()) {
         pnlMain->setEnabled(false);
-        btnSave->setText(QStringLiteral("DELETE"));
-        btnSave->setAccessibleName(QStringLiteral("DELETE"));
+        btnSave->setText(facts_.deleteCaption);
+        btnSave->setAccessibleName(facts_.deleteCaption);
         btnSave->setRole(KeyButton::Role::Danger);
         resetStatusBar();
-        displayError(QStringLiteral("Press [F10] to Delete"));
+        displayError(u"Press [F10] to Delete"_s);
+    }
+}
+
+void DetailScreen::setDefaults() {
+    form_->setDefaults();
+}
+
+QStringList DetailScreen::selectLines() const {
+    return {"SELECT * FROM " + QLatin1String(facts_.table),
+            " WHERE [RecID] = " + QuotedStr(xRecID)};
+}
+
+void DetailScreen::ExtractData() {
+    Statement row(gData->Velmara);
+    try {
+        row.NewRead();
+        for (const auto& line : selectLines()) {
+            row.SQL.Add(line);
+        }
+        row.Open();
+    } catch (const std::exception& error) {
+        const auto text =
+            facts_.errorText.isEmpty()
+                ? u"SQL Error reading object \"%1\". Details: "_s.arg(QLatin1String(facts_.table))
+                : facts_.errorText;
+        sfg_ErrorDlg(facts_.errorNo, text + u'\r' + errorText(error), unitName(), u"ExtractData"_s);
+        saveNothing();
+        return;
+    }
+    if (!row.IsEmpty()) {
+        form_->load(row);
+        rowLoaded(row);
+    }
+}
+
+void DetailScreen::lockKeys() {
+    for (const auto& field : form_->fields()) {
+        if (field.stated->options.key) {
+            lockKey(qobject_cast<QLineEdit*>(field.control));
+        }
+    }
+}
+
+void DetailScreen::lockKey(QLineEdit* edit) {
+    edit->setReadOnly(true);
+    edit->setFocusPolicy(Qt::ClickFocus);
+    mark(edit, "locked", true);
+    if (auto* button = findChild<QToolButton*>(u"btn"_s + edit->objectName().mid(2))) {
+        button->hide();
+    }
+}
+
+void DetailScreen::focusFirst() {
+    if (deleting() || !btnSave->isEnabled()) {
+        (deleting() ? btnSave : btnCancel)->setFocus();
+        return;
+    }
+    if (!adding() && facts_.firstInUpdate != nullptr) {
+        control<QWidget>(facts_.firstInUpdate)->setFocus();
+        return;
+    }
+    for (const auto& field : form_->fields()) {
+        if (isChangeable(*field.control)) {
+            field.control->setFocus();
+            return;
+        }
     }
 }
 
 void DetailScreen::saveNothing() {
     btnSave->setEnabled(false);
-    displayError(QStringLiteral("Could not be read: nothing can be saved. Close and open again."));
+    displayError(u"Could not be read: nothing can be saved. Close and open again."_s);
     btnCancel->setFocus();
 }
 
 void DetailScreen::btnSaveClick() {
-    if (!deleting() && !datesCanBeRead()) {
-        return;
-    }
-    if ((!deleting() || validatesDelete()) && !Validation()) {
+    if ((!deleting() || facts_.validatesDelete) && !Validation()) {
         return;
     }
     sfg_ClearSQL();
@@ -147,6 +234,80 @@ void DetailScreen::collect() {
     }
 }
 
+bool DetailScreen::Validation() {
+    return checksPass() && isUnique();
+}
+
+bool DetailScreen::checksPass() {
+    clearRefusal();
+    std::vector<QWidget*> unchecked;
+    for (const auto& field : form_->fields()) {
+        unchecked.push_back(field.control);
+    }
+    for (const auto& check : facts_.checks) {
+        auto& checked = form_->control(QLatin1String(check.control));
+        if (!check.passes(fieldValue(checked))) {
+            const auto* focus = check.focus != nullptr ? check.focus : check.control;
+            return refuse(control<QWidget>(focus), check.refusal);
+        }
+        if (!dateCanBeRead(checked)) {
+            return false;
+        }
+        std::erase(unchecked, &checked);
+    }
+    return std::all_of(unchecked.begin(), unchecked.end(),
+                       [this](QWidget* control) { return dateCanBeRead(*control); });
+}
+
+bool DetailScreen::dateCanBeRead(QWidget& control) {
+    auto* date = qobject_cast<DateEdit*>(&control);
+    return date == nullptr || date->tidy();
+}
+
+bool DetailScreen::takeNumber(const char* name, const QString& xTxTp, const QString& errorText) {
+    auto* edit = control(name);
+    edit->setText(sld_GenerateDocNo(gCO, gBranch, u"CRO"_s, xTxTp));
+    edit->repaint();
+    if (edit->text() == "0"_L1) {
+        // Three screens tell their missing numbers by the same error number.
+        sfg_ErrorDlg(u"100A-002"_s, errorText, unitName(), u"Validation"_s);
+        return false;
+    }
+    return true;
+}
+
+bool DetailScreen::isUnique() {
+    const auto columns = QString::fromLatin1(facts_.unique.columns).split(u' ', Qt::SkipEmptyParts);
+    if (!adding() || columns.isEmpty()) {
+        return true;
+    }
+    QStringList conditions;
+    for (const auto& column : columns) {
+        conditions << "[" + column + "] = " + QuotedStr(form_->value(column));
+    }
+    const QString table = QLatin1String(facts_.table);
+    if (sld_CheckDuplicates(
+            "SELECT [RecID] FROM " + table + " WHERE " + conditions.join("   AND "_L1), table)) {
+        const auto* focus = facts_.unique.focus;
+        return refuse(focus != nullptr ? control<QWidget>(focus) : nullptr, facts_.unique.refusal);
+    }
+    return true;
+}
+
+void DetailScreen::AddData() {
+    sfg_AddSQL(form_->insertText(), u"NEW"_s);
+}
+
+void DetailScreen::UpdateData() {
+    sfg_AddSQL(form_->updateText(xRecID), u"NEW"_s);
+}
+
+void DetailScreen::DeleteData() {
+    sfg_AddSQL("DELETE FROM " + QLatin1String(facts_.table) +
+                   " WHERE [RecID] = " + QuotedStr(xRecID),
+               u"NEW"_s);
+}
+
 bool DetailScreen::refuse(QWidget* control, const QString& message) {
     clearRefusal();
     displayError(message);
@@ -163,44 +324,6 @@ void DetailScreen::clearRefusal() {
     if (offending_ != nullptr) {
         mark(offending_, "offending", false);
         offending_ = nullptr;
-    }
-}
-
-void DetailScreen::lockKey(QLineEdit* edit) {
-    edit->setReadOnly(true);
-    edit->setFocusPolicy(Qt::ClickFocus);
-    mark(edit, "locked", true);
-}
-
-void DetailScreen::watchDates() {
-    for (auto* edit : findChildren<DateEdit*>()) {
-        connectHandler(edit, &DateEdit::dateRefused, this, [this, edit] {
-            refuse(edit, edit->accessibleName() +
-                             QStringLiteral(" is not a date. Type it as yyyy/mm/dd."));
-        });
-    }
-}
-
-bool DetailScreen::datesCanBeRead() {
-    for (auto* edit : findChildren<DateEdit*>()) {
-        if (!edit->tidy()) {
-            return false;
-        }
-    }
-    return true;
-}
-
-void DetailScreen::moveOnWithEnter(const std::vector<QWidget*>& except) {
-    const auto watch = [&](QWidget* control) {
-        if (std::find(except.begin(), except.end(), control) == except.end()) {
-            control->installEventFilter(this);
-        }
-    };
-    for (auto* edit : pnlMain->findChildren<QLineEdit*>()) {
-        watch(edit);
-    }
-    for (auto* combo : pnlMain->findChildren<QComboBox*>()) {
-        watch(combo);
     }
 }
 

@@ -303,6 +303,16 @@ QToolButton* FormBuilder::browseButton(QLineEdit* edit) {
                        QStringLiteral("search"));
 }
 
+void FormBuilder::markRequired(QWidget* control) {
+    for (const auto& [label, grid, column] : labels_) {
+        if (label->buddy() == control) {
+            label->setText(label->text() + QStringLiteral(" *"));
+            label->setToolTip(QStringLiteral("Must be filled"));
+        }
+    }
+    control->setAccessibleDescription(QStringLiteral("Must be filled"));
+}
+
 // The controls of groups below each other begin at one line.
 void FormBuilder::alignLabels() {
     std::map<int, int> widest;

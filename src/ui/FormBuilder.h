@@ -62,6 +62,8 @@ public:
     /// A button at the right end of an edit of this group, named btn + the edit's name.
     QToolButton* browseButton(QLineEdit* edit);
 
+    /// Says at the label that the control must be filled.
+    void markRequired(QWidget* control);
     /// Room below the last group that grows with the window.
     void stretch();
 
@@ -75,7 +77,7 @@ private:
 
     struct Label
     {
-        QWidget* label;
+        QLabel* label;
         QGridLayout* grid;
         int column;
     };
