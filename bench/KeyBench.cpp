@@ -123,7 +123,7 @@ void pickCustomer(Typist& typist, QDialog& customers) {
 }
 
 void fill(Typist& typist, QDialog& header) {
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 4; ++i) {
         typist.press(header, "Enter to the next edit", Qt::Key_Return);
     }
     typist.type(header, "?");
@@ -138,7 +138,9 @@ void fill(Typist& typist, QDialog& header) {
 }
 
 void change(Typist& typist, QDialog& header) {
-    typist.press(header, "Shift+Tab", Qt::Key_Backtab, Qt::ShiftModifier);
+    for (int i = 0; i < 3; ++i) {
+        typist.press(header, "Tab to the reference", Qt::Key_Tab);
+    }
     typist.type(header, "K-8");
     typist.press(header, "F10 changes the order", Qt::Key_F10);
 }

@@ -97,14 +97,13 @@ void pickCustomer(Tour& tour) {
 }
 
 void fillOrder(Tour& tour, const Values& row) {
-    tour.say(QStringLiteral("Shift+Tab leads back to the reference, Enter on from edit to edit."));
-    tour.press(Qt::Key_Backtab, Qt::ShiftModifier);
-    tour.type(row["Reference"]);
-    tour.press(Qt::Key_Return);
+    tour.say(QStringLiteral("Enter leads on from edit to edit."));
     tour.press(Qt::Key_Return); // the order date stays today
     tour.type(row["ReceiveDate"]);
     tour.press(Qt::Key_Return);
     tour.type(QStringLiteral("P")); // to PICKUP in the list
+    tour.press(Qt::Key_Return);
+    tour.type(row["Reference"]);
     tour.press(Qt::Key_Return);
     tour.say(QStringLiteral("\"?\" in the account opens the customers, Alt+S searches them."));
     pickCustomer(tour);

@@ -48,6 +48,9 @@ bool DateEdit::isAcceptable() const {
 }
 
 bool DateEdit::tidy() {
+    if (!isModified()) {
+        return true;
+    }
     if (const auto typed = date(); typed.isValid()) {
         if (text() != dateText(typed)) { // or cursor and selection would jump
             setDate(typed);

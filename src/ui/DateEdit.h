@@ -6,8 +6,9 @@
 
 namespace velcro::ui {
 
-/// The text is what counts. Leaving the edit brings a date that can be read into the form
-/// yyyy/MM/dd; anything else stays as it was typed and is told by dateRefused().
+/// The text is what counts. Leaving the edit brings a date that was typed and can be read into the
+/// form yyyy/MM/dd; anything else stays as it was typed and is told by dateRefused(). A text that was
+/// set and not touched is nobody's mistake and stays as it is.
 class DateEdit : public QLineEdit
 {
     Q_OBJECT

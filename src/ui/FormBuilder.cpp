@@ -215,6 +215,9 @@ QLineEdit* FormBuilder::edit(const QString& name, const QString& label,
     edit->setWidths(widthOf(*edit, narrowestEdit), widthOf(*edit, options.width));
     edit->setPlaceholderText(options.emptyText);
     edit->setReadOnly(options.readOnly);
+    if (options.readOnly) {
+        edit->setFocusPolicy(Qt::ClickFocus); // read and copied, not passed through
+    }
     if (options.limit > 0) {
         edit->setMaxLength(options.limit);
     }

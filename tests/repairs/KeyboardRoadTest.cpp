@@ -35,7 +35,7 @@ TEST_F(KeyboardRoadTest, enterLeadsThroughTheBookingAndSavesItButDeletesNothing)
     const int before = orders().toInt();
     inRegister([&] {
         user.expectForm(headerTitle, [&] {
-            for (int i = 0; i < 3; ++i) {
+            for (int i = 0; i < 4; ++i) {
                 user.press(Qt::Key_Return);
             }
             EXPECT_EQ(user.focus(), "edAccount");
