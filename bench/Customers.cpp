@@ -12,13 +12,11 @@ namespace {
 /// The statement of each row that the table lacks, in one transaction.
 void fill(const QString& table, int count, const std::function<QString(int row)>& statement) {
     Statement work(gData->Velmara);
-    work.SQL.Add(QStringLiteral("SELECT COUNT(*) FROM ") + table);
-    work.Open();
+    work.Open({"SELECT COUNT(*) FROM " + table});
     const int missing = count - work.Fields(0).AsInteger();
     gData->Velmara.StartTransaction();
     for (int row = 0; row < missing; ++row) {
-        work.NewText();
-        work.SQL.Add(statement(row));
+        work.setText({statement(row)});
         work.ExecSQL();
     }
     gData->Velmara.Commit();

@@ -1,7 +1,7 @@
 #include "application/LockTimer.h"
 
 #include "data/DataUVEL.h"
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 
@@ -11,35 +11,39 @@ namespace {
 
 /// A group with this time or more is exempt.
 constexpr int exempt = 999;
-const QString routine = QStringLiteral("sfvel_Get_LockAppTimer");
 
-std::optional<int> firstLockTime(Statement& query) {
-    query.Open();
-    if (query.IsEmpty()) {
-        return std::nullopt;
-    }
-    return query.FieldByName("LockTime").AsInteger();
+using LockTime = std::optional<int>;
+
+LockTime firstLockTime(const QStringList& lines, const char* errorNo, const char* table) {
+    return readRows(
+        gData->Velmara, lines,
+        dialogAndRaise(errorNo, sqlErrorOnTable(table), "SysFuncVelmara", "sfvel_Get_LockAppTimer"),
+        [](const Statement& rows) {
+            return rows.IsEmpty() ? LockTime() : rows.FieldByName("LockTime").AsInteger();
+        });
 }
 
-std::optional<int> programRule(const QString& program) {
-    Statement query(gData->Velmara);
-    query.NewRead();
-    query.SQL.Add("SELECT [LockTime] FROM SYSLockAppTimers WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-    query.SQL.Add(" AND [Branch] = " + QuotedStr(gBranch));
-    query.SQL.Add(" AND [PgmName] = " + QuotedStr(program));
-    return firstLockTime(query);
+LockTime programRule(const QString& program) {
+    return firstLockTime(
+        {
+            "SELECT [LockTime] FROM SYSLockAppTimers WITH (NOLOCK) ",
+            " WHERE [CO] = " + QuotedStr(gCO),
+            " AND [Branch] = " + QuotedStr(gBranch),
+            " AND [PgmName] = " + QuotedStr(program),
+        },
+        "SFVEL-12", "SYSLockAppTimers");
 }
 
-std::optional<int> groupRule(const QString& program) {
-    Statement query(gData->Velmara);
-    query.NewRead();
-    query.SQL.Add("SELECT [LockTime] FROM SYSGrpLockAppTimers WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-    query.SQL.Add(" AND [Branch] = " + QuotedStr(gBranch));
-    query.SQL.Add(" AND [UserGroup] = " + QuotedStr(gUserGroup));
-    query.SQL.Add(" AND [PgmName] = " + QuotedStr(program));
-    return firstLockTime(query);
+LockTime groupRule(const QString& program) {
+    return firstLockTime(
+        {
+            "SELECT [LockTime] FROM SYSGrpLockAppTimers WITH (NOLOCK) ",
+            " WHERE [CO] = " + QuotedStr(gCO),
+            " AND [Branch] = " + QuotedStr(gBranch),
+            " AND [UserGroup] = " + QuotedStr(gUserGroup),
+            " AND [PgmName] = " + QuotedStr(program),
+        },
+        "SFVEL-13", "SYSGrpLockAppTimers");
 }
 
 } // namespace
@@ -47,13 +51,11 @@ std::optional<int> groupRule(const QString& program) {
 int sfvel_Get_LockAppTimer(const QString& xPgmName) {
     const bool hasExtension = xPgmName.endsWith(QLatin1String(".exe"));
     const QString program = hasExtension ? xPgmName.chopped(4) : xPgmName;
-    const auto ofProgram = guardedRead("SFVEL-12", "SYSLockAppTimers", "SysFuncVelmara", routine,
-                                       [&program] { return programRule(program); });
+    const LockTime ofProgram = programRule(program);
     if (!ofProgram) {
         return 0;
     }
-    const auto ofGroup = guardedRead("SFVEL-13", "SYSGrpLockAppTimers", "SysFuncVelmara", routine,
-                                     [&program] { return groupRule(program); });
+    const LockTime ofGroup = groupRule(program);
     if (!ofGroup) {
         return *ofProgram;
     }

@@ -1,7 +1,7 @@
 #include "data/DataUVEL.h"
 
 #include "data/ConnectModule.h"
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/RunBatch.h"
 #include "data/Session.h"
 
@@ -67,12 +67,9 @@ void TgData::Close_Query_Remote() {
 }
 
 QString TgData::VEL_GetSPID() {
-    return guardedRead("999999", "SPID", "DataUVEL", "VEL_GetSPID", [this] {
-        Statement wQuery(Velmara);
-        wQuery.SQL.Add("SELECT @@SPID AS SPID");
-        wQuery.Open();
-        return wQuery.FieldByName("SPID").AsString();
-    });
+    return readRows(Velmara, {"SELECT @@SPID AS SPID"},
+                    dialogAndRaise("999999", sqlErrorOnTable("SPID"), "DataUVEL", "VEL_GetSPID"),
+                    [](const Statement& rows) { return rows.FieldByName("SPID").AsString(); });
 }
 
 bool TgData::vel_ExecSQL(int xMemoNo) {

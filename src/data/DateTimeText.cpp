@@ -1,20 +1,18 @@
 #include "data/DateTimeText.h"
 
 #include "data/DataUCMN.h"
-#include "data/ReadGuard.h"
+#include "data/Errors.h"
+#include "data/Reading.h"
 #include "platform/seat/Clock.h"
 
 QString sfg_GetServerDate() {
-    return guardedRead("999999", "XXXXX", "SysFuncGlobal", "sfg_GetServerDate", [] {
-        Statement wQuery(cData->VelmaraCommon);
-        wQuery.NewRead();
-        wQuery.SQL.Add("SELECT current_timestamp as SDate");
-        wQuery.Open();
-        if (wQuery.IsEmpty()) {
-            return QStringLiteral("Not Found");
-        }
-        return wQuery.FieldByName("SDate").AsString().section(QLatin1Char(' '), 0, 0);
-    });
+    return readRows(
+        cData->VelmaraCommon, {"SELECT current_timestamp as SDate"},
+        dialogAndRaise("999999", sqlErrorOnTable("XXXXX"), "SysFuncGlobal", "sfg_GetServerDate"),
+        [](const Statement& rows) {
+            return rows.IsEmpty() ? QStringLiteral("Not Found")
+                                  : rows.FieldByName("SDate").AsString().section(' ', 0, 0);
+        });
 }
 
 QString dateText(const QDate& date) {

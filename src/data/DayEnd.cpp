@@ -3,7 +3,7 @@
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
 #include "data/PeriodAndTax.h"
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "platform/seat/Programs.h"
@@ -11,38 +11,32 @@
 namespace {
 
 bool isAskedFor(const QString& runDate) {
-    Statement query(gData->Velmara);
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM SYSEODLog WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-    query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
-    query.SQL.Add("   AND [RunDate] = " + QuotedStr(runDate));
-    query.Open();
-    return !query.IsEmpty();
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SYSEODLog WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [Branch] = " + QuotedStr(gBranch),
+                        "   AND [RunDate] = " + QuotedStr(runDate),
+                    },
+                    dialogAndRaise("SFVEL-10", sqlErrorOnTable("SYSEODLog"), "SysFuncVelmara",
+                                   "sfvel_Check_EndOfDay_Run"),
+                    hasRow);
 }
 
 bool askFor(const QString& runDate, const QString& monthEnd) {
     const QStringList values{gCO, gBranch,     runDate,    monthEnd,  {},      {},  {},
                              {},  sfg_Date(0), sfg_Time(), gUserCode, gPCName, "X", {}};
-    sfg_AddSQL("INSERT INTO SYSEODLog ( "
-               "[CO], [Branch], [RunDate], [MonthEnd], [StartDate], [StartTime], [EndDate],  "
-               "[EndTime], [DTODate], [DTOTime], [DTOUser], [DTOMacID], [Status], [LogData]   "
-               " ) VALUES ( " +
-                   QuotedStrArray(values) + ")",
-               "NEW");
+    sfg_AddSQL(
+        {
+            "INSERT INTO SYSEODLog ( ",
+            "[CO], [Branch], [RunDate], [MonthEnd], [StartDate], [StartTime], [EndDate],  ",
+            "[EndTime], [DTODate], [DTOTime], [DTOUser], [DTOMacID], [Status], [LogData]   ",
+            " ) VALUES ( ",
+            QuotedStrArray(values),
+            ")",
+        },
+        "NEW");
     return gData->vel_ExecSQL(1);
-}
-
-bool isRunFromHere() {
-    Statement query(gData->Velmara);
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM SysEODLog WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-    query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
-    query.SQL.Add("   AND [Status] < " + QuotedStr("9"));
-    query.SQL.Add("   AND [DTOMacID] = " + QuotedStr(gPCName));
-    query.Open();
-    return !query.IsEmpty();
 }
 
 /// A missing velEOD is silent: the row stays, and no other seat of the branch tries again.
@@ -58,10 +52,7 @@ void startDayEnd() {
 bool sfvel_Check_EndOfDay_Run() {
     gEODInitiated = "N";
     const QString yesterday = sfg_Date(-1);
-    const bool askedFor =
-        guardedRead("SFVEL-10", "SYSEODLog", "SysFuncVelmara", "sfvel_Check_EndOfDay_Run",
-                    [&yesterday] { return isAskedFor(yesterday); });
-    if (askedFor) {
+    if (isAskedFor(yesterday)) {
         return true;
     }
     sfvel_GetPeriod(yesterday);
@@ -72,11 +63,17 @@ bool sfvel_Check_EndOfDay_Run() {
     return result;
 }
 
+// A failure is shown, and the session goes on without knowing.
 bool sfvel_Check_DayEnd_Progress() {
-    try {
-        return guardedRead("SFVEL-11", "SysEODLog", "SysFuncVelmara", "sfvel_Check_DayEnd_Progress",
-                           isRunFromHere);
-    } catch (const std::exception&) {
-        return false; // shown already; the session goes on without knowing
-    }
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysEODLog WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [Branch] = " + QuotedStr(gBranch),
+                        "   AND [Status] < " + QuotedStr("9"),
+                        "   AND [DTOMacID] = " + QuotedStr(gPCName),
+                    },
+                    dialogAndFalse("SFVEL-11", sqlErrorOnTable("SysEODLog"), "SysFuncVelmara",
+                                   "sfvel_Check_DayEnd_Progress"),
+                    hasRow);
 }

@@ -2,7 +2,7 @@
 
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "data/SysDataModel.h"
@@ -10,18 +10,19 @@
 
 int sfvel_GetPeriod(const QString& xDate) {
     sfg_ResetParamFields(QString());
-    return guardedRead("SFVEL-14", "SYSAP", "SysFuncVelmara", "sld_GetPeriod", [&] {
-        Statement wQuery(gData->Velmara);
-        sld_OpenPeriodOf(wQuery, xDate);
-        if (wQuery.IsEmpty()) {
-            return 0;
-        }
-        gSParam[1] = wQuery.FieldByName("FromDate").AsString();
-        gSParam[2] = wQuery.FieldByName("ToDate").AsString();
-        gSParam[3] = wQuery.FieldByName("APActive").AsString();
-        gSParam[4] = wQuery.FieldByName("APOpen").AsString();
-        return wQuery.FieldByName("AP").AsInteger();
-    });
+    return readRows(
+        gData->Velmara, sld_PeriodOf(xDate),
+        dialogAndRaise("SFVEL-14", sqlErrorOnTable("SYSAP"), "SysFuncVelmara", "sld_GetPeriod"),
+        [](const Statement& rows) {
+            if (rows.IsEmpty()) {
+                return 0;
+            }
+            gSParam[1] = rows.FieldByName("FromDate").AsString();
+            gSParam[2] = rows.FieldByName("ToDate").AsString();
+            gSParam[3] = rows.FieldByName("APActive").AsString();
+            gSParam[4] = rows.FieldByName("APOpen").AsString();
+            return rows.FieldByName("AP").AsInteger();
+        });
 }
 
 double sfvel_GetVATRate(const QString& xVATCode, const QString& xDate) {

@@ -46,8 +46,7 @@ bool runBatch(TextLines& buffer, Statement& writer, const BatchRules& rules) {
         rules.transaction->StartTransaction();
     }
     try {
-        writer.NewText();
-        writer.SQL.setText(text);
+        writer.setText({text});
         writer.ExecSQL();
         if (rules.transaction) {
             rules.transaction->Commit();

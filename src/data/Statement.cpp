@@ -109,16 +109,15 @@ Statement::~Statement() {
     }
 }
 
-void Statement::NewText() {
+void Statement::setText(const QStringList& lines) {
     Close();
-    SQL.Clear();
+    SQL = TextLines(lines);
     parameters_.clear();
 }
 
-void Statement::NewRead() {
-    NewText();
-    SpecificOptions[QStringLiteral("CursorType")] = QStringLiteral("ctDefaultResultSet");
-    SpecificOptions[QStringLiteral("FetchAll")] = QStringLiteral("True");
+void Statement::Open(const QStringList& lines) {
+    setText(lines);
+    Open();
 }
 
 void Statement::Open() {

@@ -7,7 +7,6 @@
 #include "platform/sqlserver/RowSet.h"
 
 #include <QByteArray>
-#include <QMap>
 #include <QString>
 
 #include <vector>
@@ -70,18 +69,15 @@ public:
     Statement& operator=(const Statement&) = delete;
 
     TextLines SQL;
-    /// "CursorType", "FetchAll". Results are always fetched whole and at once, so these say what a
-    /// read relies on and change nothing.
-    QMap<QString, QString> SpecificOptions;
-
     Connection& connection() const { return *connection_; }
 
-    /// Closes, and empties SQL and its parameters.
-    void NewText();
-    /// The standard beginning of a read: a new text, whose result is wanted whole and at once.
-    void NewRead();
-    /// Runs SQL and stands on the first row. Throws SqlError. Reopens when open.
+    /// Closes, and takes these lines as its text, without parameters.
+    void setText(const QStringList& lines);
+    /// Runs SQL, fetches the whole result and stands on its first row. Throws SqlError. Reopens
+    /// when open.
     void Open();
+    /// setText and Open in one.
+    void Open(const QStringList& lines);
     void Close();
     /// Runs SQL for its effect. Throws SqlError.
     void ExecSQL();

@@ -31,6 +31,14 @@ bool sfg_AddSQL2(const QString& xSQL, const QString& xFunction) {
     return addTo(gSQL2, xSQL, xFunction);
 }
 
+bool sfg_AddSQL(const QStringList& pieces, const QString& xFunction) {
+    return sfg_AddSQL(pieces.join(QString()), xFunction);
+}
+
+bool sfg_AddSQL2(const QStringList& pieces, const QString& xFunction) {
+    return sfg_AddSQL2(pieces.join(QString()), xFunction);
+}
+
 QString QuotedStr(const QString& text) {
     QString doubled = text;
     doubled.replace(QLatin1Char('\''), QLatin1String("''"));
@@ -41,12 +49,24 @@ QString QuotedStr(qint64 number) {
     return QuotedStr(QString::number(number));
 }
 
-QString QuotedStrArray(const QStringList& xValues) {
+namespace {
+
+QString quotedAndJoined(const QStringList& values, const char* between) {
     QStringList quoted;
-    for (const QString& value : xValues) {
+    for (const QString& value : values) {
         quoted.append(QuotedStr(value));
     }
-    return quoted.join(QLatin1String(", "));
+    return quoted.join(QLatin1String(between));
+}
+
+} // namespace
+
+QString QuotedStrArray(const QStringList& xValues) {
+    return quotedAndJoined(xValues, ", ");
+}
+
+QString valueList(const QStringList& values) {
+    return quotedAndJoined(values, ",");
 }
 
 QString sfg_AddDTO() {

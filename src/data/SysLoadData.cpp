@@ -2,7 +2,8 @@
 
 #include "data/ComboLoaders.h"
 #include "data/DataUVEL.h"
-#include "data/ReadGuard.h"
+#include "data/Errors.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 
@@ -75,19 +76,15 @@ QStringList sld_ComboLeadingItems(const QString& xALL) {
 QStringList sld_ComboRows(const QString& xTable, const QString& xSQL, const QString& xParam1) {
     const QString table = xTable.toUpper();
     QStringList items;
-    try {
-        Statement wQuery(gData->Velmara);
-        wQuery.NewRead();
-        wQuery.SQL.Add(xSQL);
-        wQuery.Open();
-        for (; !wQuery.Eof(); wQuery.Next()) {
-            items << itemText(table, wQuery);
-        }
-    } catch (const std::exception& error) {
-        throw VelmaraError(QStringLiteral("[SysLoadData.sld_LoadCombo] SQL Error reading object "
-                                          "\"%1\".\r%2")
-                               .arg(xTable, errorText(error)));
-    }
+    readRows(gData->Velmara, {xSQL},
+             raisedAs(QStringLiteral("[SysLoadData.sld_LoadCombo] SQL Error reading object "
+                                     "\"%1\".\r")
+                          .arg(xTable)),
+             [&](Statement& rows) {
+                 for (; !rows.Eof(); rows.Next()) {
+                     items << itemText(table, rows);
+                 }
+             });
     if (table == QLatin1String("SYSTAX") && (xParam1 == "I" || xParam1 == "O")) {
         items << "C - Customs VAT Rate";
     }
@@ -103,9 +100,7 @@ QString sld_LoadComboSQL(const QString& xTable, const QString& xParam1, const QS
 bool sld_CheckDuplicates(const QString& xSQL, const QString& xTable) {
     try {
         Statement wQuery(gData->Velmara);
-        wQuery.NewRead();
-        wQuery.SQL.Add(xSQL);
-        wQuery.Open();
+        wQuery.Open({xSQL});
         return !wQuery.IsEmpty();
     } catch (const std::exception&) {
         throw VelmaraError(QStringLiteral("SysLoadData.sld_CheckDuplicates] SQL Error reading "
@@ -116,7 +111,7 @@ bool sld_CheckDuplicates(const QString& xSQL, const QString& xTable) {
 
 namespace {
 
-void refuseSeriesKey(const char* name, const QString& value, int longest) {
+void requireSeriesKey(const char* name, const QString& value, int longest) {
     const QString place = QStringLiteral("SysLoadData.sld_GenerateDocNo] ");
     if (value.trimmed().isEmpty()) {
         throw VelmaraError(
@@ -149,10 +144,10 @@ QString numberOfRow(const Statement& row, const QString& xModCode, const QString
 
 QString sld_GenerateDocNo(const QString& xCO, const QString& xBranch, const QString& xModCode,
                           const QString& xTxTp) {
-    refuseSeriesKey("CO", xCO, 10);
-    refuseSeriesKey("BRANCH", xBranch, 10);
-    refuseSeriesKey("MODCODE", xModCode, 3);
-    refuseSeriesKey("TXTP", xTxTp, 6);
+    requireSeriesKey("CO", xCO, 10);
+    requireSeriesKey("BRANCH", xBranch, 10);
+    requireSeriesKey("MODCODE", xModCode, 3);
+    requireSeriesKey("TXTP", xTxTp, 6);
     Statement wQuery(gData->Velmara);
     wQuery.SQL.Add("EXEC VELMARA_GENERATE_NUMBER :CO, :BRANCH, :MODCODE, :TXTP");
     wQuery.ParamByName("CO").setString(xCO);
@@ -163,54 +158,52 @@ QString sld_GenerateDocNo(const QString& xCO, const QString& xBranch, const QStr
     return wQuery.IsEmpty() ? QStringLiteral("0") : numberOfRow(wQuery, xModCode, xTxTp);
 }
 
-void sld_OpenPeriodOf(Statement& wQuery, const QString& xDate) {
-    wQuery.NewRead();
-    wQuery.SQL.Add("SELECT * FROM SYSAP WITH (NOLOCK) ");
-    wQuery.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-    wQuery.SQL.Add("   AND [FromDate] <= " + QuotedStr(xDate));
-    wQuery.SQL.Add("   AND [ToDate] >= " + QuotedStr(xDate));
-    wQuery.Open();
+QStringList sld_PeriodOf(const QString& xDate) {
+    return {
+        "SELECT * FROM SYSAP WITH (NOLOCK) ",
+        " WHERE [CO] = " + QuotedStr(gCO),
+        "   AND [FromDate] <= " + QuotedStr(xDate),
+        "   AND [ToDate] >= " + QuotedStr(xDate),
+    };
 }
 
 int sld_GetPrevAP(int xAP, int xAPCnt) {
-    try {
-        Statement wQuery(gData->Velmara);
-        wQuery.NewRead();
-        wQuery.SQL.Add("SELECT [AP], [FromDate], [ToDate]");
-        wQuery.SQL.Add("  FROM SysAP WITH (NOLOCK)");
-        wQuery.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-        wQuery.SQL.Add("   AND [AP] <= " + QuotedStr(xAP));
-        wQuery.SQL.Add(" ORDER BY [AP] DESC");
-        wQuery.Open();
-        if (xAPCnt < 0 || xAPCnt >= wQuery.RecordCount()) {
-            return 0;
-        }
-        wQuery.setRecNo(xAPCnt + 1);
-        gIParam[1] = wQuery.FieldByName("AP").AsInteger();
-        gSParam[1] = wQuery.FieldByName("FromDate").AsString();
-        gSParam[2] = wQuery.FieldByName("ToDate").AsString();
-        gSParam[3] = gSParam[1] + " - " + gSParam[2];
-        return gIParam[1];
-    } catch (const std::exception& error) {
-        throw VelmaraError("[SysLoadData.sld_GetPrevAP] SQL Error reading object \"SysAP\".\r" +
-                           errorText(error));
-    }
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT [AP], [FromDate], [ToDate]",
+                        "  FROM SysAP WITH (NOLOCK)",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [AP] <= " + QuotedStr(xAP),
+                        " ORDER BY [AP] DESC",
+                    },
+                    raisedAs("[SysLoadData.sld_GetPrevAP] SQL Error reading object \"SysAP\".\r"),
+                    [xAPCnt](Statement& rows) {
+                        if (xAPCnt < 0 || xAPCnt >= rows.RecordCount()) {
+                            return 0;
+                        }
+                        rows.setRecNo(xAPCnt + 1);
+                        gIParam[1] = rows.FieldByName("AP").AsInteger();
+                        gSParam[1] = rows.FieldByName("FromDate").AsString();
+                        gSParam[2] = rows.FieldByName("ToDate").AsString();
+                        gSParam[3] = gSParam[1] + " - " + gSParam[2];
+                        return gIParam[1];
+                    });
 }
 
 bool sld_LoadSmallImage(const QString& xImageCode) {
-    return guardedRead("999999", "SysRepImages", "SysLoadData", "sld_LoadSmallImage", [&] {
-        Statement& wQuery = gData->qryImages;
-        wQuery.NewRead();
-        wQuery.SQL.Add("SELECT [ImageData] FROM SysRepImages WITH (NOLOCK)");
-        wQuery.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-        wQuery.SQL.Add("   AND [ImageCode] = " + QuotedStr(xImageCode));
-        wQuery.Open();
-        if (wQuery.IsEmpty()) {
-            wQuery.Close();
-            return false;
-        }
-        gImageStream = wQuery.FieldByName("ImageData").AsBytes();
-        wQuery.Close();
-        return !gImageStream.isEmpty();
-    });
+    return readRows(gData->qryImages,
+                    {
+                        "SELECT [ImageData] FROM SysRepImages WITH (NOLOCK)",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [ImageCode] = " + QuotedStr(xImageCode),
+                    },
+                    dialogAndRaise("999999", sqlErrorOnTable("SysRepImages"), "SysLoadData",
+                                   "sld_LoadSmallImage"),
+                    [](const Statement& rows) {
+                        if (rows.IsEmpty()) {
+                            return false;
+                        }
+                        gImageStream = rows.FieldByName("ImageData").AsBytes();
+                        return !gImageStream.isEmpty();
+                    });
 }

@@ -25,8 +25,8 @@ bool sld_CheckDuplicates(const QString& xSQL, const QString& xTable);
 /// The next number of a document series, from the server. Throws.
 QString sld_GenerateDocNo(const QString& xCO, const QString& xBranch, const QString& xModCode,
                           const QString& xTxTp);
-/// Opens the query on the accounting period of gCO that holds the date (SYSAP, yyyy/mm/dd). Throws.
-void sld_OpenPeriodOf(Statement& wQuery, const QString& xDate);
+/// The statement of the accounting period of gCO that holds the date (SYSAP, yyyy/mm/dd).
+QStringList sld_PeriodOf(const QString& xDate);
 /// The period xAPCnt before xAP, 0 if there is none; gIParam1, gSParam1 to 3.
 int sld_GetPrevAP(int xAP, int xAPCnt);
 /// True with the picture in gImageStream.

@@ -1,7 +1,7 @@
 #include "repairs/CRO100A.h"
 
 #include "data/DataUVEL.h"
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "repairs/SysCRO.h"
@@ -134,22 +134,21 @@ bool TfrmCRO100A::browseAccount(const QString& xStartSearch) {
 }
 
 bool TfrmCRO100A::GetDebtor() {
-    auto& query = gData->vLoadQuery1;
-    const Fault fault = {u"100A-003"_s, u"SQL Error reading DEBMaster\r"_s, unitName(),
-                         u"GetDebtor"_s};
-    return shownAsFalse(fault, [&] {
-        query.NewRead();
-        query.SQL.Add("SELECT [Account], [Name] FROM DEBMaster");
-        query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-        query.SQL.Add("   AND [Branch] = " + QuotedStr(gDebBranch));
-        query.SQL.Add("   AND [Account] = " + QuotedStr(edAccount->text()));
-        query.Open();
-        const bool found = !query.IsEmpty();
-        if (found) {
-            edAccount->setText(query.FieldByName(u"Account"_s).AsString());
-            edName->setText(query.FieldByName(u"Name"_s).AsString());
-        }
-        query.Close();
-        return found;
-    });
+    return readRows(
+        gData->vLoadQuery1,
+        {
+            "SELECT [Account], [Name] FROM DEBMaster",
+            " WHERE [CO] = " + QuotedStr(gCO),
+            "   AND [Branch] = " + QuotedStr(gDebBranch),
+            "   AND [Account] = " + QuotedStr(edAccount->text()),
+        },
+        dialogAndFalse("100A-003", "SQL Error reading DEBMaster\r", unitName(), "GetDebtor"),
+        [this](const Statement& rows) {
+            if (rows.IsEmpty()) {
+                return false;
+            }
+            edAccount->setText(rows.FieldByName("Account").AsString());
+            edName->setText(rows.FieldByName("Name").AsString());
+            return true;
+        });
 }

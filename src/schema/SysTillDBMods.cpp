@@ -2,8 +2,7 @@
 
 #include "data/DataUTIL.h"
 #include "data/DateTimeText.h"
-#include "data/Errors.h"
-#include "data/Prompts.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 
@@ -11,36 +10,35 @@ namespace {
 
 void addWorkstation() {
     const QString today = sfg_Date(0);
-    sfg_AddSQL("INSERT INTO SYSTillControl ( "
-               "[PCName], [MacID], [Key], [DBVersion], [LastMaint], [LastUpgrade]   "
-               " ) VALUES ( " +
-                   QuotedStr(gPCName) + "," + QuotedStr(QString()) + "," + QuotedStr(QString()) +
-                   "," + QuotedStr(gLocalDBVersion) + "," + QuotedStr(today) + "," +
-                   QuotedStr(today) + ")",
-               "NEW");
+    sfg_AddSQL(
+        {
+            "INSERT INTO SYSTillControl ( ",
+            "[PCName], [MacID], [Key], [DBVersion], [LastMaint], [LastUpgrade]   ",
+            " ) VALUES ( ",
+            valueList({gPCName, {}, {}, gLocalDBVersion, today, today}),
+            ")",
+        },
+        "NEW");
     tData->til_ExecSQL(1);
 }
 
 } // namespace
 
 void tb_Check_Till_DBVersion() {
-    try {
-        Statement query(tData->VelmaraTILL);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM SYSTillControl WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [PCName] = " + QuotedStr(gPCName));
-        query.Open();
-        if (query.IsEmpty()) {
-            addWorkstation();
-        } else {
-            gLocalDBVersion = query.FieldByName("DBVersion").AsString();
-        }
-    } catch (const std::exception& e) {
-        sfg_ErrorDlg(QStringLiteral("900004"),
-                     QStringLiteral("SQL Error on Table: vcVersions :-\r") + errorText(e),
-                     QStringLiteral("SysTillDBMods"), QStringLiteral("tb_Check_Till_DBVersion"));
-        throw;
-    }
+    const auto failure = dialogAndRaise("900004", sqlErrorOnTable("vcVersions"), "SysTillDBMods",
+                                        "tb_Check_Till_DBVersion");
+    readRows(tData->VelmaraTILL,
+             {
+                 "SELECT * FROM SYSTillControl WITH (NOLOCK) ",
+                 " WHERE [PCName] = " + QuotedStr(gPCName),
+             },
+             failure, [](const Statement& rows) {
+                 if (rows.IsEmpty()) {
+                     addWorkstation();
+                 } else {
+                     gLocalDBVersion = rows.FieldByName("DBVersion").AsString();
+                 }
+             });
 }
 
 bool tillSchemaIsBehind() {

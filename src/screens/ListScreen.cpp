@@ -23,7 +23,7 @@ ListScreen::ListScreen(ListFacts facts, Connection& connection, QWidget* parent)
 
 void ListScreen::BuildGrid(const QString& xSQL) {
     try {
-        readRows(xSQL);
+        readList(xSQL);
     } catch (const std::exception& error) {
         readFailed(error);
         if (raisesReadFailure()) {
@@ -32,14 +32,11 @@ void ListScreen::BuildGrid(const QString& xSQL) {
     }
 }
 
-void ListScreen::readRows(const QString& xSQL) {
+void ListScreen::readList(const QString& xSQL) {
     beforeRead(xSQL);
-    query_.NewRead();
+    query_.setText(statementLines(xSQL));
     grid_->setRows(query_.rows());
     showRowCount();
-    for (const auto& line : statementLines(xSQL)) {
-        query_.SQL.Add(line);
-    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     query_.Open();

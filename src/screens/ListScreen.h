@@ -98,7 +98,7 @@ private:
                                       const QString& keyCap);
     void hideSearch();
     void showRowCount();
-    void readRows(const QString& xSQL);
+    void readList(const QString& xSQL);
     void readFailed(const std::exception& error);
 
     ListFacts facts_;

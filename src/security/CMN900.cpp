@@ -1,6 +1,8 @@
 #include "security/CMN900.h"
 
 #include "data/DataUVEL.h"
+#include "data/Prompts.h"
+#include "data/Session.h"
 #include "data/StatementText.h"
 #include "security/SupervisorRights.h"
 
@@ -8,8 +10,8 @@
 
 namespace {
 const RightReads rightReads{
-    {"100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"},
-    {"100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"},
+    dialogAndFalse("100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"),
+    dialogAndFalse("100102", "SQL Error on Table: SYSGrpAccess\r", "VTILL900", "LoadSuperAccess"),
     "*"};
 }
 
@@ -60,20 +62,21 @@ void TfrmCMN900::btnProceedClick() {
 }
 
 bool TfrmCMN900::readSupervisor() {
-    return shownAsFalse(
-        {"100099", "Error Reading SYSUSER\r", "VTILL992", "btnProceedClick"}, [this] {
-            Statement Query1(gData->Velmara);
-            Query1.NewRead();
-            Query1.SQL.Add("SELECT * FROM SysUser WITH (NOLOCK) ");
-            Query1.SQL.Add(" WHERE [UserCode] = " + QuotedStr(edSuperCode->text()));
-            Query1.Open();
-            if (Query1.IsEmpty()) {
+    return readRows(
+        gData->Velmara,
+        {
+            "SELECT * FROM SysUser WITH (NOLOCK) ",
+            " WHERE [UserCode] = " + QuotedStr(edSuperCode->text()),
+        },
+        dialogAndFalse("100099", "Error Reading SYSUSER\r", "VTILL992", "btnProceedClick"),
+        [this](const Statement& user) {
+            if (user.IsEmpty()) {
                 refuse(QStringLiteral("The Supervisor Code entered is INVALID"), edSuperCode);
                 return false;
             }
-            userPswd_ = Query1.FieldByName("UserPswd").AsString();
-            supervisor_ = Query1.FieldByName("Supervisor").AsString();
-            userGroup_ = Query1.FieldByName("UserGroup").AsString();
+            userPswd_ = user.FieldByName("UserPswd").AsString();
+            supervisor_ = user.FieldByName("Supervisor").AsString();
+            userGroup_ = user.FieldByName("UserGroup").AsString();
             return true;
         });
 }

@@ -1,6 +1,8 @@
 #include "security/CMN901.h"
 
 #include "data/DataUVEL.h"
+#include "data/Prompts.h"
+#include "data/Session.h"
 #include "data/StatementText.h"
 #include "security/SupervisorRights.h"
 
@@ -9,10 +11,11 @@
 
 namespace {
 
-const RightReads rightReads{
-    {"100413", "SQL Error on Table: SYSGrpAccess\r", "VTILL905", "Allowed_To_OverRide"},
-    {"100414", "SQL Error on Table: SYSUSERACCESS\r", "VTILL905", "Allowed_To_OverRide"},
-    "[Options]"};
+const RightReads rightReads{dialogAndFalse("100413", "SQL Error on Table: SYSGrpAccess\r",
+                                           "VTILL905", "Allowed_To_OverRide"),
+                            dialogAndFalse("100414", "SQL Error on Table: SYSUSERACCESS\r",
+                                           "VTILL905", "Allowed_To_OverRide"),
+                            "[Options]"};
 
 } // namespace
 
@@ -94,23 +97,25 @@ bool TfrmCMN901::ValidateSuper(const QString& xNo) {
 }
 
 bool TfrmCMN901::readSupervisor(const QString& xNo) {
-    return shownAsFalse({"100411", "SQL Error on Table: SYSUSER\r", "VTILL995", "btnOKClick"}, [&] {
-        Supervisor& who = supervisor(xNo);
-        Statement Query1(gData->Velmara);
-        Query1.NewRead();
-        Query1.SQL.Add("SELECT UserCode, UserPswd, UserGroup ");
-        Query1.SQL.Add(" FROM SysUser ");
-        Query1.SQL.Add(" WHERE UserCode = " + QuotedStr(who.code->text()));
-        Query1.Open();
-        if (Query1.IsEmpty()) {
-            displayError(QStringLiteral("Supervisor %1 Code entered is Invalid").arg(xNo));
-            return false;
-        }
-        who.user = Query1.FieldByName("UserCode").AsString();
-        who.pswd = Query1.FieldByName("UserPswd").AsString();
-        who.group = Query1.FieldByName("UserGroup").AsString();
-        return true;
-    });
+    Supervisor& who = supervisor(xNo);
+    return readRows(
+        gData->Velmara,
+        {
+            "SELECT UserCode, UserPswd, UserGroup ",
+            " FROM SysUser ",
+            " WHERE UserCode = " + QuotedStr(who.code->text()),
+        },
+        dialogAndFalse("100411", "SQL Error on Table: SYSUSER\r", "VTILL995", "btnOKClick"),
+        [&](const Statement& user) {
+            if (user.IsEmpty()) {
+                displayError(QStringLiteral("Supervisor %1 Code entered is Invalid").arg(xNo));
+                return false;
+            }
+            who.user = user.FieldByName("UserCode").AsString();
+            who.pswd = user.FieldByName("UserPswd").AsString();
+            who.group = user.FieldByName("UserGroup").AsString();
+            return true;
+        });
 }
 
 bool TfrmCMN901::Allowed_To_OverRide(const QString& xNo) {

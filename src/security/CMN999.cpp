@@ -3,6 +3,8 @@
 #include "data/DataUCMN.h"
 #include "data/DataUTIL.h"
 #include "data/DateTimeText.h"
+#include "data/Errors.h"
+#include "data/Prompts.h"
 #include "data/SessionFile.h"
 #include "data/StatementText.h"
 #include "data/TextHelpers.h"
@@ -28,6 +30,20 @@ namespace {
 const QString reservedUser = QStringLiteral("KORVAL");
 
 constexpr int pictureHeight = 150;
+
+QStringList offeredDatabases() {
+    QStringList lines{
+        "SELECT * FROM vcSettings WITH (NOLOCK)",
+        " WHERE [Suite] = " + QuotedStr(gSuite),
+    };
+    if (!gSvrCatCode.trimmed().isEmpty()) {
+        lines << "   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode);
+    }
+    if (!gSvrCatString.trimmed().isEmpty()) {
+        lines << "   AND [SvrCatCode] IN (" + gSvrCatString + ")";
+    }
+    return lines << " ORDER BY [DisplaySeq] ";
+}
 
 // Resets the busy cursor on every way out but the one that leaves it.
 class BusyCursor
@@ -123,32 +139,27 @@ void TfrmCMN999::FormShow() {
 }
 
 bool TfrmCMN999::LoadSettings() {
-    Statement& query = cData->vcQuery1;
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK)");
-    query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
-    if (!gSvrCatCode.trimmed().isEmpty()) {
-        query.SQL.Add("   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode));
-    }
-    if (!gSvrCatString.trimmed().isEmpty()) {
-        query.SQL.Add("   AND [SvrCatCode] IN (" + gSvrCatString + ")");
-    }
-    query.SQL.Add(" ORDER BY [DisplaySeq] ");
-    query.Open();
-    if (query.IsEmpty()) {
+    if (!readRows(cData->vcQuery1, offeredDatabases(), raised(),
+                  [this](Statement& rows) { return fillDatabases(rows); })) {
         sfg_ErrorDlg(QStringLiteral("900002"),
                      QStringLiteral("There are NO Company/Branches Loaded on the System"),
                      unitName(), QStringLiteral("LoadSettings"));
         return false;
     }
-    cmbDatabase->clear();
-    for (; !query.Eof(); query.Next()) {
-        cmbDatabase->addItem(query.FieldByName("DisplayName").AsString());
-    }
-    query.Close();
     defDisplayName_ = sfg_ReadSession_INIFile(QStringLiteral("DBDisplayName"));
     selectDatabase(defDisplayName_);
     Load_WhiteLabel_Images();
+    return true;
+}
+
+bool TfrmCMN999::fillDatabases(Statement& rows) {
+    if (rows.IsEmpty()) {
+        return false;
+    }
+    cmbDatabase->clear();
+    for (; !rows.Eof(); rows.Next()) {
+        cmbDatabase->addItem(rows.FieldByName("DisplayName").AsString());
+    }
     return true;
 }
 
@@ -158,25 +169,26 @@ void TfrmCMN999::selectDatabase(const QString& xDisplayName) {
 
 // Img02 wins over Img01: both stand for the background. What is no picture leaves the form's own.
 bool TfrmCMN999::Load_WhiteLabel_Images() {
-    return shownAsFalse(
-        {"999999", "SQL Error on Table: VCSettings :-\r", "CMN999", "Load_WhiteLabel_Images"},
-        [this] {
-            Statement& query = cData->vcLoadQuery1;
-            query.NewRead();
-            query.SQL.Add("SELECT [Img01], [Img02] ");
-            query.SQL.Add("  FROM VCSettings WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [DisplayName] = " + QuotedStr(defDisplayName_));
-            query.Open();
-            for (const char* column : {"Img01", "Img02"}) {
-                QPixmap picture;
-                if (!query.IsEmpty() && picture.loadFromData(query.FieldByName(column).AsBytes())) {
-                    imgBackground->show(picture);
-                }
-            }
-            const bool found = !query.IsEmpty();
-            query.Close();
-            return found;
-        });
+    return readRows(cData->vcLoadQuery1,
+                    {
+                        "SELECT [Img01], [Img02] ",
+                        "  FROM VCSettings WITH (NOLOCK) ",
+                        " WHERE [DisplayName] = " + QuotedStr(defDisplayName_),
+                    },
+                    dialogAndFalse("999999", sqlErrorOnTable("VCSettings"), unitName(),
+                                   "Load_WhiteLabel_Images"),
+                    [this](const Statement& row) {
+                        if (row.IsEmpty()) {
+                            return false;
+                        }
+                        for (const char* column : {"Img01", "Img02"}) {
+                            QPixmap picture;
+                            if (picture.loadFromData(row.FieldByName(column).AsBytes())) {
+                                imgBackground->show(picture);
+                            }
+                        }
+                        return true;
+                    });
 }
 
 void TfrmCMN999::acSelectDB() {

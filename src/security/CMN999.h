@@ -3,6 +3,7 @@
 
 #include "security/SignInForm.h"
 
+class Statement;
 class QComboBox;
 class QLabel;
 class LogInPicture;
@@ -16,6 +17,7 @@ public:
 
     /// Offers the databases of the suite (vcSettings) and selects the one of the last session.
     bool LoadSettings();
+    bool fillDatabases(Statement& rows);
     /// The forced change of the password; false when it was turned down.
     bool ChangePswd();
     /// The pictures that vcSettings holds for the remembered database; false without its row.

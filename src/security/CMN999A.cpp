@@ -48,10 +48,8 @@ void TfrmCMN999A::FormShow() {
 }
 
 bool TfrmCMN999A::GetUser() {
-    Query1.NewRead();
-    Query1.SQL.Add("SELECT * FROM SYSUser WITH (NOLOCK) ");
-    Query1.SQL.Add(" WHERE [UserCode] = " + QuotedStr(userCode_));
-    Query1.Open();
+    Query1.Open(
+        {"SELECT * FROM SYSUser WITH (NOLOCK) ", " WHERE [UserCode] = " + QuotedStr(userCode_)});
     return !Query1.IsEmpty();
 }
 
@@ -75,14 +73,14 @@ bool TfrmCMN999A::Validation() {
 
 // The text goes in as typed: a blank at its end shuts the user out at the next log-in, which trims.
 bool TfrmCMN999A::UpdatePswd() {
-    sfg_AddSQL("UPDATE SYSUSER SET "
-               " USERPSWD = " +
-                   QuotedStr(edPswd1->text()) +
-                   ","
-                   " PSWDDATE = " +
-                   QuotedStr(sfg_Date(0)) +
-                   " WHERE RecID = " + QuotedStr(Query1.FieldByName("RecID").AsInteger()),
-               "NEW");
+    sfg_AddSQL(
+        {
+            "UPDATE SYSUSER SET ",
+            " USERPSWD = " + QuotedStr(edPswd1->text()) + ",",
+            " PSWDDATE = " + QuotedStr(sfg_Date(0)),
+            " WHERE RecID = " + QuotedStr(Query1.FieldByName("RecID").AsInteger()),
+        },
+        "NEW");
     return gData->vel_ExecSQL(1);
 }
 

@@ -1,9 +1,9 @@
 #include "security/CMN999E.h"
 
 #include "data/DataUCMN.h"
+#include "data/Reading.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
-#include "security/LogInRead.h"
 #include "ui/RowGrid.h"
 
 #include <QKeyEvent>
@@ -34,21 +34,21 @@ TfrmCMN999E::TfrmCMN999E()
 }
 
 void TfrmCMN999E::FormShow() {
-    shownAsFalse({"999999", "SQL Error on Table: vcSettings :-\r", "CMN999E", "FormShow"}, [this] {
-        Statement query(cData->VelmaraCommon);
-        query.NewRead();
-        query.SQL.Add("SELECT [DisplayName] FROM vcSettings WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
-        if (!gSvrCatCode.trimmed().isEmpty()) {
-            query.SQL.Add("   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode));
-        }
-        query.SQL.Add(" ORDER BY [DisplaySeq] ");
-        query.Open();
-        rows_ = query.rows();
-        grid_->setRows(rows_);
-        grid_->setFocus();
-        return true;
-    });
+    QStringList lines{
+        "SELECT [DisplayName] FROM vcSettings WITH (NOLOCK) ",
+        " WHERE [Suite] = " + QuotedStr(gSuite),
+    };
+    if (!gSvrCatCode.trimmed().isEmpty()) {
+        lines << "   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode);
+    }
+    lines << " ORDER BY [DisplaySeq] ";
+    readRows(cData->VelmaraCommon, lines,
+             dialogAndFalse("999999", sqlErrorOnTable("vcSettings"), unitName(), "FormShow"),
+             [this](const Statement& databases) {
+                 rows_ = databases.rows();
+                 grid_->setRows(rows_);
+                 grid_->setFocus();
+             });
 }
 
 bool TfrmCMN999E::eventFilter(QObject* watched, QEvent* event) {

@@ -1,17 +1,16 @@
-// What the reads of the log-in share: how a row's columns go into the session, and how a refusal
-// is told.
+// What the reads of the log-in share: how a row's columns go into the session, and how the reason
+// of a "no" is kept.
 #pragma once
 
-#include "data/ReadGuard.h"
+#include "data/Reading.h"
 #include "data/Session.h"
-#include "data/Statement.h"
 
 #include <QString>
 
 #include <initializer_list>
 
-/// The unit of the fault's own class, which some reads name in place of their own.
-inline constexpr const char* faultUnit = "SqlError";
+/// The unit of the error's own class, which some dialogs name in place of the routine's.
+inline constexpr const char* errorClassUnit = "SqlError";
 
 /// A column and the session value that it fills.
 struct TextColumn
@@ -29,7 +28,7 @@ void copyText(const Statement& row, const Columns& columns) {
 }
 
 /// Leaves the reason in gErrorMsg; always false.
-inline bool refuse(const QString& reason) {
+inline bool falseBecause(const QString& reason) {
     gErrorMsg = reason;
     return false;
 }

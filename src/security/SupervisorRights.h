@@ -2,7 +2,7 @@
 // in memory are those of the signed-in user.
 #pragma once
 
-#include "security/LogInRead.h"
+#include "data/Reading.h"
 
 #include <QString>
 
@@ -17,7 +17,7 @@ struct RightOfUser
 /// What the two reads show when they fail, and what they select.
 struct RightReads
 {
-    Fault group, user;
+    ReadFailure group, user;
     const char* columns;
 };
 

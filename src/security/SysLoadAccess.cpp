@@ -2,13 +2,12 @@
 
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
-#include "data/StatementText.h"
+#include "data/Reading.h"
+#include "data/Session.h"
 #include "data/SysDataModel.h"
 #include "security/SettingsIndex.h"
 
 namespace {
-
-const QString unitName = QStringLiteral("SysLoadAccess");
 
 using ReportLevels = QHash<int, TRepAccessRule*>;
 
@@ -31,35 +30,35 @@ QString ungrantedValue(const QString& xModCode) {
                                                            : QStringLiteral("N");
 }
 
-QString reportFault(const char* xTable) {
-    return QStringLiteral("[%1.acc_Load_RepAccess] SQL Error on ") + QLatin1String(xTable) +
-           QStringLiteral(": %2");
+ReadFailure reportFailure(const char* xTable) {
+    return keptInErrorMsg(QStringLiteral("[SysLoadAccess.acc_Load_RepAccess] SQL Error on %1: ")
+                              .arg(QLatin1String(xTable)));
 }
 
 bool loadReportLevels(ReportLevels& levels) {
-    return readQuietly(reportFault("SysRepAccessLevel"), unitName, [&levels] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM SysRepAccessLevel WITH (NOLOCK) ORDER BY [AccessLevel]");
-        for (query.Open(); !query.Eof(); query.Next()) {
-            auto rule = std::make_unique<TRepAccessRule>();
-            rule->AccessLevel = query.FieldByName("AccessLevel").AsInteger();
-            rule->Description = query.FieldByName("Description").AsString();
-            levels.insert(rule->AccessLevel, rule.get());
-            gRepAccessRules.push_back(std::move(rule));
-        }
-    });
+    return readRows(gData->Velmara,
+                    {"SELECT * FROM SysRepAccessLevel WITH (NOLOCK) ORDER BY [AccessLevel]"},
+                    reportFailure("SysRepAccessLevel"), [&levels](Statement& row) {
+                        for (; !row.Eof(); row.Next()) {
+                            auto rule = std::make_unique<TRepAccessRule>();
+                            rule->AccessLevel = row.FieldByName("AccessLevel").AsInteger();
+                            rule->Description = row.FieldByName("Description").AsString();
+                            levels.insert(rule->AccessLevel, rule.get());
+                            gRepAccessRules.push_back(std::move(rule));
+                        }
+                    });
 }
 
 bool loadGroupReportLevels(const ReportLevels& levels) {
-    return readQuietly(reportFault("SYSGrpRepAccess"), unitName, [&levels] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT [AccessLevel] FROM SYSGrpRepAccess WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [UserGroup] = :UserGroup");
-        query.ParamByName("UserGroup").setString(gUserGroup);
-        for (query.Open(); !query.Eof(); query.Next()) {
-            if (auto* rule = levels.value(query.FieldByName("AccessLevel").AsInteger())) {
+    Statement query(gData->Velmara);
+    query.setText({
+        "SELECT [AccessLevel] FROM SYSGrpRepAccess WITH (NOLOCK)",
+        " WHERE [UserGroup] = :UserGroup",
+    });
+    query.ParamByName("UserGroup").setString(gUserGroup);
+    return readRows(query, reportFailure("SYSGrpRepAccess"), [&levels](Statement& row) {
+        for (; !row.Eof(); row.Next()) {
+            if (auto* rule = levels.value(row.FieldByName("AccessLevel").AsInteger())) {
                 rule->Allowed = true;
             }
         }
@@ -68,17 +67,18 @@ bool loadGroupReportLevels(const ReportLevels& levels) {
 
 bool loadUserReportLevels(const ReportLevels& levels, const QString& xCO, const QString& xBranch,
                           const QString& xUserCode) {
-    return readQuietly(reportFault("SYSUserRepAccess"), unitName, [&] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT [AccessLevel], [AllowAccess] FROM SYSUserRepAccess WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch AND [UserCode] = :UserCode");
-        query.ParamByName("CO").setString(xCO);
-        query.ParamByName("Branch").setString(xBranch);
-        query.ParamByName("UserCode").setString(xUserCode);
-        for (query.Open(); !query.Eof(); query.Next()) {
-            if (auto* rule = levels.value(query.FieldByName("AccessLevel").AsInteger())) {
-                rule->Allowed = query.FieldByName("AllowAccess").AsInteger() == 1;
+    Statement query(gData->Velmara);
+    query.setText({
+        "SELECT [AccessLevel], [AllowAccess] FROM SYSUserRepAccess WITH (NOLOCK)",
+        " WHERE [CO] = :CO AND [Branch] = :Branch AND [UserCode] = :UserCode",
+    });
+    query.ParamByName("CO").setString(xCO);
+    query.ParamByName("Branch").setString(xBranch);
+    query.ParamByName("UserCode").setString(xUserCode);
+    return readRows(query, reportFailure("SYSUserRepAccess"), [&levels](Statement& row) {
+        for (; !row.Eof(); row.Next()) {
+            if (auto* rule = levels.value(row.FieldByName("AccessLevel").AsInteger())) {
+                rule->Allowed = row.FieldByName("AllowAccess").AsInteger() == 1;
             }
         }
     });
@@ -103,44 +103,47 @@ bool acc_LoadAccess(const QString& xCO, const QString& xBranch, const QString& x
 
 bool acc_Load_AccessControl() {
     gAccessRules.clear();
-    const auto fault =
-        QStringLiteral("[%1.acc_Load_AccessControl] SQL Error reading \"vcSysAccess\".\r\"%2\".");
-    return readQuietly(fault, unitName, [] {
-        Statement query(cData->VelmaraCommon);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM vcSysAccess WITH (NOLOCK) WHERE [Suite] = :Suite "
-                      "ORDER BY [ModCode], [AccessNo]");
-        query.ParamByName("Suite").setString(gSuite);
-        for (query.Open(); !query.Eof(); query.Next()) {
-            const auto module = query.FieldByName("ModCode").AsString();
-            addRule(module, query.FieldByName("AccessNo").AsInteger(),
-                    query.FieldByName("AccessName").AsString(), ungrantedValue(module));
+    Statement query(cData->VelmaraCommon);
+    query.setText({
+        "SELECT * FROM vcSysAccess WITH (NOLOCK) WHERE [Suite] = :Suite "
+        "ORDER BY [ModCode], [AccessNo]",
+    });
+    query.ParamByName("Suite").setString(gSuite);
+    const auto failure = keptInErrorMsg(
+        "[SysLoadAccess.acc_Load_AccessControl] SQL Error reading \"vcSysAccess\".\r\"", "\".");
+    return readRows(query, failure, [](Statement& row) {
+        for (; !row.Eof(); row.Next()) {
+            const auto module = row.FieldByName("ModCode").AsString();
+            addRule(module, row.FieldByName("AccessNo").AsInteger(),
+                    row.FieldByName("AccessName").AsString(), ungrantedValue(module));
         }
     });
 }
 
 bool acc_LoadAllAccess_Overrides(AccessIndex& dict, const QString& xCO, const QString& xBranch,
                                  const QString& xUserGroup, const QString& xUserCode) {
-    const auto fault = QStringLiteral(
-        "[%1.acc_LoadAllAccess_Overrides] SQL Error loading access overrides. \"%2\".");
-    return readQuietly(fault, unitName, [&] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT [ModCode], [AccessNo], [Options], 1 AS [Priority] "
-                      "FROM SYSGrpAccess WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [CO] = :CO AND [UserGroup] = :UserGroup ");
-        query.SQL.Add(" UNION ALL SELECT [ModCode], [AccessNo], [Options], 2 AS [Priority] "
-                      "FROM SYSUserAccess WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch AND [UserCode] = :UserCode ");
-        query.SQL.Add(" ORDER BY [Priority]");
-        query.ParamByName("CO").setString(xCO);
-        query.ParamByName("UserGroup").setString(xUserGroup);
-        query.ParamByName("Branch").setString(xBranch);
-        query.ParamByName("UserCode").setString(xUserCode);
-        for (query.Open(); !query.Eof(); query.Next()) {
-            acc_UpdateOrAddAccessInDict(dict, query.FieldByName("ModCode").AsString(),
-                                        query.FieldByName("AccessNo").AsInteger(),
-                                        query.FieldByName("Options").AsString());
+    Statement query(gData->Velmara);
+    query.setText({
+        "SELECT [ModCode], [AccessNo], [Options], 1 AS [Priority] "
+        "FROM SYSGrpAccess WITH (NOLOCK) ",
+        " WHERE [CO] = :CO AND [UserGroup] = :UserGroup ",
+        " UNION ALL SELECT [ModCode], [AccessNo], [Options], 2 AS [Priority] "
+        "FROM SYSUserAccess WITH (NOLOCK) ",
+        " WHERE [CO] = :CO AND [Branch] = :Branch AND [UserCode] = :UserCode ",
+        " ORDER BY [Priority]",
+    });
+    query.ParamByName("CO").setString(xCO);
+    query.ParamByName("UserGroup").setString(xUserGroup);
+    query.ParamByName("Branch").setString(xBranch);
+    query.ParamByName("UserCode").setString(xUserCode);
+    const auto failure = keptInErrorMsg(
+        "[SysLoadAccess.acc_LoadAllAccess_Overrides] SQL Error loading access overrides. \"",
+        "\".");
+    return readRows(query, failure, [&dict](Statement& row) {
+        for (; !row.Eof(); row.Next()) {
+            acc_UpdateOrAddAccessInDict(dict, row.FieldByName("ModCode").AsString(),
+                                        row.FieldByName("AccessNo").AsInteger(),
+                                        row.FieldByName("Options").AsString());
         }
     });
 }

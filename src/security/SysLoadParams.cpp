@@ -2,13 +2,14 @@
 
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
+#include "data/Reading.h"
+#include "data/Session.h"
 #include "data/StatementText.h"
 #include "data/SysDataModel.h"
+#include "security/LogInRead.h"
 #include "security/SettingsIndex.h"
 
 namespace {
-
-const QString unitName = QStringLiteral("SysLoadParams");
 
 QString par_CO;
 QString par_Branch;
@@ -54,6 +55,34 @@ TParameter* addParameter(const QString& xCode, int xNumber, const QString& xName
     return gParameters.back().get();
 }
 
+// Each group is set on one level only: a value of the user's group does not fall back on the
+// branch's, nor the branch's on the company's. Modules are set by branch, three of them by company.
+const QStringList parameterOverrides = {
+    "SELECT 'CO' AS [ParamCode], [ParamNo], [ParamValue], 1 AS [Priority]",
+    "  FROM SYSParameter WITH (NOLOCK)",
+    " WHERE [CO] = :CO AND [Branch] = '' AND [ModCode] = '' AND UserCode = ''",
+    "UNION ALL",
+    "SELECT 'BRANCH' AS [ParamCode], [ParamNo], [ParamValue], 2 AS [Priority]",
+    "  FROM SYSParameter WITH (NOLOCK)",
+    " WHERE [CO] = :CO AND [Branch] = :Branch",
+    "   AND [ModCode] = '' AND [UserCode] = ''",
+    "UNION ALL",
+    "SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 3 AS [Priority]",
+    "  FROM SYSParameter WITH (NOLOCK)",
+    " WHERE [CO] = :CO AND [Branch] = ''",
+    "   AND [ModCode] IN ( 'CRD','GSM','GLG') AND [UserCode] = ''",
+    "UNION ALL",
+    "SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 4 AS [Priority]",
+    "  FROM SYSParameter WITH (NOLOCK)",
+    " WHERE [CO] = :CO AND [Branch] = :Branch",
+    "   AND [ModCode] NOT IN ( 'CRD','GSM','GLG') AND [UserCode] = ''",
+    "UNION ALL",
+    "SELECT 'USER' AS [ParamCode], [ParamNo], [ParamValue], 5 AS [Priority]",
+    "  FROM SYSGrpParam WITH (NOLOCK)",
+    " WHERE [CO] = :CO AND [UserGroup] = :UserGroup",
+    " ORDER BY [Priority]",
+};
+
 } // namespace
 
 bool par_LoadParameters(const QString& xCO, const QString& xBranch) {
@@ -78,63 +107,41 @@ bool par_LoadParameters(const QString& xCO, const QString& xBranch) {
 
 bool par_Load_ParamControl() {
     gParameters.clear();
-    const auto fault = QStringLiteral(
-        "[%1.par_Load_ParamControl] SQL Error reading \"vcSysParmControl\".\r\"%2\".");
-    return readQuietly(fault, unitName, [] {
-        Statement query(cData->VelmaraCommon);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM vcSysParmControl WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [Suite] = " + QuotedStr(gSuite));
-        query.SQL.Add(" ORDER BY [ParmType], [ModCode], [ParmNo]");
-        for (query.Open(); !query.Eof(); query.Next()) {
-            addParameter(groupCode(query.FieldByName("ParmType").AsString(),
-                                   query.FieldByName("ModCode").AsString()),
-                         query.FieldByName("ParmNo").AsInteger(),
-                         query.FieldByName("ParmName").AsString(),
-                         query.FieldByName("DefaultValue").AsString());
-        }
-    });
+    return readRows(cData->VelmaraCommon,
+                    {
+                        "SELECT * FROM vcSysParmControl WITH (NOLOCK)",
+                        " WHERE [Suite] = " + QuotedStr(gSuite),
+                        " ORDER BY [ParmType], [ModCode], [ParmNo]",
+                    },
+                    keptInErrorMsg("[SysLoadParams.par_Load_ParamControl] SQL Error reading "
+                                   "\"vcSysParmControl\".\r\"",
+                                   "\"."),
+                    [](Statement& row) {
+                        for (; !row.Eof(); row.Next()) {
+                            addParameter(groupCode(row.FieldByName("ParmType").AsString(),
+                                                   row.FieldByName("ModCode").AsString()),
+                                         row.FieldByName("ParmNo").AsInteger(),
+                                         row.FieldByName("ParmName").AsString(),
+                                         row.FieldByName("DefaultValue").AsString());
+                        }
+                    });
 }
 
-// Each group is set on one level only: a value of the user's group does not fall back on the
-// branch's, nor the branch's on the company's. Modules are set by branch, three of them by company.
 bool par_LoadAllParam_Overrides(ParameterIndex& dict, const QString& xCO, const QString& xBranch,
                                 const QString& xUserGroup, const QString&) {
-    const auto fault = QStringLiteral(
-        "[%1.par_LoadAllParam_Overrides] SQL Error loading parameter overrides. \"%2\".");
-    return readQuietly(fault, unitName, [&] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT 'CO' AS [ParamCode], [ParamNo], [ParamValue], 1 AS [Priority]");
-        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = '' AND [ModCode] = '' AND UserCode = ''");
-        query.SQL.Add("UNION ALL");
-        query.SQL.Add("SELECT 'BRANCH' AS [ParamCode], [ParamNo], [ParamValue], 2 AS [Priority]");
-        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch");
-        query.SQL.Add("   AND [ModCode] = '' AND [UserCode] = ''");
-        query.SQL.Add("UNION ALL");
-        query.SQL.Add("SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 3 AS [Priority]");
-        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = ''");
-        query.SQL.Add("   AND [ModCode] IN ( 'CRD','GSM','GLG') AND [UserCode] = ''");
-        query.SQL.Add("UNION ALL");
-        query.SQL.Add("SELECT [ModCode] AS [ParamCode], [ParamNo], [ParamValue], 4 AS [Priority]");
-        query.SQL.Add("  FROM SYSParameter WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [Branch] = :Branch");
-        query.SQL.Add("   AND [ModCode] NOT IN ( 'CRD','GSM','GLG') AND [UserCode] = ''");
-        query.SQL.Add("UNION ALL");
-        query.SQL.Add("SELECT 'USER' AS [ParamCode], [ParamNo], [ParamValue], 5 AS [Priority]");
-        query.SQL.Add("  FROM SYSGrpParam WITH (NOLOCK)");
-        query.SQL.Add(" WHERE [CO] = :CO AND [UserGroup] = :UserGroup");
-        query.SQL.Add(" ORDER BY [Priority]");
-        query.ParamByName("CO").setString(xCO);
-        query.ParamByName("Branch").setString(xBranch);
-        query.ParamByName("UserGroup").setString(xUserGroup);
-        for (query.Open(); !query.Eof(); query.Next()) {
-            par_UpdateOrAddParamInDict(dict, query.FieldByName("ParamCode").AsString(),
-                                       query.FieldByName("ParamNo").AsInteger(),
-                                       query.FieldByName("ParamValue").AsString());
+    Statement query(gData->Velmara);
+    query.setText(parameterOverrides);
+    query.ParamByName("CO").setString(xCO);
+    query.ParamByName("Branch").setString(xBranch);
+    query.ParamByName("UserGroup").setString(xUserGroup);
+    const auto failure = keptInErrorMsg("[SysLoadParams.par_LoadAllParam_Overrides] SQL Error "
+                                        "loading parameter overrides. \"",
+                                        "\".");
+    return readRows(query, failure, [&dict](Statement& row) {
+        for (; !row.Eof(); row.Next()) {
+            par_UpdateOrAddParamInDict(dict, row.FieldByName("ParamCode").AsString(),
+                                       row.FieldByName("ParamNo").AsInteger(),
+                                       row.FieldByName("ParamValue").AsString());
         }
     });
 }
@@ -166,25 +173,19 @@ void par_PopulateLegacyArrays() {
 
 bool par_LoadVATRates() {
     gVatRates.clear();
-    const auto fault =
-        QStringLiteral("[%1.par_LoadVATRates] SQL Error reading \"SysTax\".\r\"%2\".");
-    const bool read = readQuietly(fault, unitName, [] {
-        Statement query(gData->Velmara);
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM SysTax WITH (NOLOCK) ORDER BY [SeqNo]");
-        for (query.Open(); !query.Eof(); query.Next()) {
-            auto rate = std::make_unique<TVatRate>();
-            rate->VATCode = query.FieldByName("TaxCode").AsString();
-            rate->Description = query.FieldByName("TaxDesc").AsString();
-            rate->VATRate = query.FieldByName("TaxRate").AsFloat();
-            rate->FromDate = query.FieldByName("FromDate").AsString();
-            rate->ToDate = query.FieldByName("ToDate").AsString();
-            gVatRates.push_back(std::move(rate));
-        }
-    });
-    if (read && gVatRates.empty()) {
-        gErrorMsg = QStringLiteral("NO VAT Rates Found.");
-        return false;
-    }
-    return read;
+    const auto failure =
+        keptInErrorMsg("[SysLoadParams.par_LoadVATRates] SQL Error reading \"SysTax\".\r\"", "\".");
+    return readRows(gData->Velmara, {"SELECT * FROM SysTax WITH (NOLOCK) ORDER BY [SeqNo]"},
+                    failure, [](Statement& row) {
+                        for (; !row.Eof(); row.Next()) {
+                            auto rate = std::make_unique<TVatRate>();
+                            rate->VATCode = row.FieldByName("TaxCode").AsString();
+                            rate->Description = row.FieldByName("TaxDesc").AsString();
+                            rate->VATRate = row.FieldByName("TaxRate").AsFloat();
+                            rate->FromDate = row.FieldByName("FromDate").AsString();
+                            rate->ToDate = row.FieldByName("ToDate").AsString();
+                            gVatRates.push_back(std::move(rate));
+                        }
+                        return !gVatRates.empty() || falseBecause("NO VAT Rates Found.");
+                    });
 }

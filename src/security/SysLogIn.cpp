@@ -3,6 +3,8 @@
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
+#include "data/Errors.h"
+#include "data/Prompts.h"
 #include "data/Session.h"
 #include "data/SessionFile.h"
 #include "data/StatementText.h"
@@ -32,6 +34,24 @@ struct FloatColumn
 {
     const char* column;
     double* value;
+};
+
+const TextColumn databaseColumns[] = {
+    {"RecID", &gDBaseRecID},
+    {"DisplayName", &gDBDisplayName},
+    {"DisplayName", &sli_DBDisplayName},
+    {"DBConnector", &gDBConnector},
+    {"DBDBase", &gDBDBase},
+    {"DBHost", &gDBHost},
+    {"DBUser", &gDBUser},
+    {"DBPswd", &gDBPswd},
+    {"DBOnAzure", &gDBOnAzure},
+    {"DefCO", &gDBDefCO},
+    {"DefCO", &sli_DBDefCO},
+    {"DefBranch", &gDBDefBranch},
+    {"DefBranch", &sli_DBDefBranch},
+    {"DefHQBranch", &gDBDefHQBranch},
+    {"DefHQBranch", &sli_DBDefHQBranch},
 };
 
 const TextColumn groupColumns[] = {
@@ -93,26 +113,31 @@ const FloatColumn userLimits[] = {
 };
 
 bool loadUserGroup() {
-    Statement query(gData->Velmara);
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM SysUserGroup WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(sli_DBDefCO));
-    query.SQL.Add("   AND [UserGroup] = " + QuotedStr(gUserGroup));
-    query.Open();
-    if (query.IsEmpty()) {
-        return refuse(QStringLiteral("User Group : [%1] %2 for User : %3 WAS NOT FOUND")
-                          .arg(sli_DBDefCO, gUserGroup, sli_UserCode));
-    }
-    copyText(query, groupColumns);
-    gPswdExpDays = query.FieldByName("PswdExpDays").AsInteger();
-    return true;
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysUserGroup WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(sli_DBDefCO),
+                        "   AND [UserGroup] = " + QuotedStr(gUserGroup),
+                    },
+                    dialogAndFalse("999999", "SQL Error reading Table: SysUserGroup\r",
+                                   errorClassUnit, "sli_VerifyUser"),
+                    [](const Statement& group) {
+                        if (group.IsEmpty()) {
+                            return falseBecause(
+                                QStringLiteral("User Group : [%1] %2 for User : %3 WAS NOT FOUND")
+                                    .arg(sli_DBDefCO, gUserGroup, sli_UserCode));
+                        }
+                        copyText(group, groupColumns);
+                        gPswdExpDays = group.FieldByName("PswdExpDays").AsInteger();
+                        return true;
+                    });
 }
 
 // The password comes first, so that an account's status is not told to whoever does not know it.
 bool passwordAndStatusPass(const Statement& user) {
     if (user.FieldByName("UserPswd").AsString() != sli_UserPswd.trimmed()) {
         errorBox(QStringLiteral("Log-in Process"), QStringLiteral("Password is INVALID"));
-        return refuse(QStringLiteral("Password INVALID"));
+        return falseBecause(QStringLiteral("Password INVALID"));
     }
     if (user.FieldByName("Status").AsString() != QLatin1String("A")) {
         errorBox(QStringLiteral("Log-in Process"),
@@ -138,17 +163,35 @@ void loadUser(const Statement& user) {
 }
 
 // By the user's own company and branch, not by those of the log-in.
-void loadCashOfficeTill(Statement& query) {
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM POSCOFTillMst WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [CO] = " + QuotedStr(sli_UDefCO));
-    query.SQL.Add("   AND [Branch] = " + QuotedStr(sli_UDefBranch));
-    query.SQL.Add("   AND [VisUser] = " + QuotedStr(gUserCode));
-    query.Open();
-    if (!query.IsEmpty()) {
-        gCOFTillNo = query.FieldByName("COFTillNo").AsString();
-        gCOFName = query.FieldByName("Name").AsString();
+bool loadCashOfficeTill() {
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM POSCOFTillMst WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(sli_UDefCO),
+                        "   AND [Branch] = " + QuotedStr(sli_UDefBranch),
+                        "   AND [VisUser] = " + QuotedStr(gUserCode),
+                    },
+                    dialogAndFalse("999999", sqlErrorOnTable("POSCOFTillMst"), "MAIN000",
+                                   "Get_CashOffice_Data"),
+                    [](const Statement& till) {
+                        if (!till.IsEmpty()) {
+                            gCOFTillNo = till.FieldByName("COFTillNo").AsString();
+                            gCOFName = till.FieldByName("Name").AsString();
+                        }
+                        return true;
+                    });
+}
+
+bool acceptUser(const Statement& user) {
+    if (user.IsEmpty()) {
+        return falseBecause(QStringLiteral("The User Code is INVALID"));
     }
+    gUserGroup = user.FieldByName("UserGroup").AsString();
+    if (!loadUserGroup() || !passwordAndStatusPass(user)) {
+        return false;
+    }
+    loadUser(user);
+    return loadCashOfficeTill();
 }
 
 bool runSteps(const QString& xCO, const QString& xBranch) {
@@ -169,7 +212,7 @@ bool runSteps(const QString& xCO, const QString& xBranch) {
     }
     if (!moduleIs({"MNU", "SYS", "TSH"}) &&
         !sfvel_CheckUserAccess(gModCode, moduleRight, QStringLiteral("N"))) {
-        return refuse(QStringLiteral("Access DENIED to this Module"));
+        return falseBecause(QStringLiteral("Access DENIED to this Module"));
     }
     return true;
 }
@@ -200,94 +243,65 @@ bool sli_LogIn(const QString& xUserCode, const QString& xUserPswd, int xDBaseRec
 }
 
 bool sli_VerifyDatabase(const QString& xDBDisplayName) {
-    return shownAndThrownOn(
-        {"900002", "SQL Error on Table: vcSettings\r", "CMN999", "VerifyDatabase"}, [&] {
-            Statement query(cData->VelmaraCommon);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [DisplayName] = " + QuotedStr(xDBDisplayName));
-            query.Open();
-            if (query.IsEmpty()) {
+    static const TextColumn columns[] = {
+        {"RecID", &gDBaseRecID}, {"DisplayName", &gDBDisplayName}, {"DBConnector", &gDBConnector},
+        {"DBDBase", &gDBDBase},  {"VReportPath", &gReportPath},    {"SvrCatCode", &gSvrCatCode},
+    };
+    return readRows(
+        cData->VelmaraCommon,
+        {
+            "SELECT * FROM vcSettings WITH (NOLOCK) ",
+            " WHERE [DisplayName] = " + QuotedStr(xDBDisplayName),
+        },
+        dialogAndRaise("900002", "SQL Error on Table: vcSettings\r", "CMN999", "VerifyDatabase"),
+        [](const Statement& database) {
+            if (database.IsEmpty()) {
                 return false;
             }
-            const TextColumn columns[] = {
-                {"RecID", &gDBaseRecID},        {"DisplayName", &gDBDisplayName},
-                {"DBConnector", &gDBConnector}, {"DBDBase", &gDBDBase},
-                {"VReportPath", &gReportPath},  {"SvrCatCode", &gSvrCatCode}};
-            copyText(query, columns);
+            copyText(database, columns);
             return true;
         });
 }
 
 bool sli_DBConnect() {
-    Statement& query = cData->vcLoadQuery1;
-    const Fault fault{"500004", "SQL Error on Table: vcSettings\r", "SysLogIn",
-                      "sli_GetCompanySettings"};
-    const bool found = shownAndThrownOn(fault, [&query] {
-        try {
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM vcSettings WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [RecID] = " + QuotedStr(sli_DBaseRecID));
-            query.Open();
-            return !query.IsEmpty();
-        } catch (const std::exception& e) {
-            gErrorMsg = QStringLiteral("SQL Error read table : vcSettings\r") + errorText(e);
-            throw;
+    const auto failure = dialogAndRaise("500004", "SQL Error on Table: vcSettings\r", "SysLogIn",
+                                        "sli_GetCompanySettings");
+    try {
+        const bool found = readRows(cData->vcLoadQuery1,
+                                    {
+                                        "SELECT * FROM vcSettings WITH (NOLOCK) ",
+                                        " WHERE [RecID] = " + QuotedStr(sli_DBaseRecID),
+                                    },
+                                    failure, [](const Statement& database) {
+                                        if (database.IsEmpty()) {
+                                            return false;
+                                        }
+                                        copyText(database, databaseColumns);
+                                        return true;
+                                    });
+        if (!found) {
+            return falseBecause(QStringLiteral("Database Settings NOT FOUND for : ") + gDBDBase);
         }
-    });
-    if (!found) {
-        return refuse(QStringLiteral("Database Settings NOT FOUND for : ") + gDBDBase);
+    } catch (const std::runtime_error& error) {
+        gErrorMsg = "SQL Error read table : vcSettings\r" + errorText(error);
+        throw;
     }
-    const TextColumn columns[] = {{"RecID", &gDBaseRecID},
-                                  {"DisplayName", &gDBDisplayName},
-                                  {"DisplayName", &sli_DBDisplayName},
-                                  {"DBConnector", &gDBConnector},
-                                  {"DBDBase", &gDBDBase},
-                                  {"DBHost", &gDBHost},
-                                  {"DBUser", &gDBUser},
-                                  {"DBPswd", &gDBPswd},
-                                  {"DBOnAzure", &gDBOnAzure},
-                                  {"DefCO", &gDBDefCO},
-                                  {"DefCO", &sli_DBDefCO},
-                                  {"DefBranch", &gDBDefBranch},
-                                  {"DefBranch", &sli_DBDefBranch},
-                                  {"DefHQBranch", &gDBDefHQBranch},
-                                  {"DefHQBranch", &sli_DBDefHQBranch}};
-    copyText(query, columns);
-    query.Close();
     return gData->ConnectDB_VEL(gDBConnector, gDBHost, gDBDBase, gDBUser, gDBPswd, gDBOnAzure);
 }
 
-// A fault while reading the user is shown, and the log-in goes on with the user not loaded; the
-// right to the company then refuses it.
+// A failed read of the user is shown, and the log-in goes on with the user not loaded; the right
+// to the company then turns it down.
 bool sli_VerifyUser() {
-    Statement query(gData->Velmara);
-    try {
-        query.NewRead();
-        query.SQL.Add("SELECT * FROM SysUser WITH (NOLOCK) ");
-        query.SQL.Add(" WHERE [UserCode] = " + QuotedStr(sli_UserCode));
-        query.Open();
-    } catch (const std::exception& e) {
-        show({"999999", "SQL Error reading Table: SysUser\r", faultUnit, "sli_VerifyUser"}, e);
-        query.Close();
-        return true;
-    }
-    if (query.IsEmpty()) {
-        return refuse(QStringLiteral("The User Code is INVALID"));
-    }
-    gUserGroup = query.FieldByName("UserGroup").AsString();
-    const Fault groupFault{"999999", "SQL Error reading Table: SysUserGroup\r", faultUnit,
-                           "sli_VerifyUser"};
-    if (!shownAsFalse(groupFault, loadUserGroup) || !passwordAndStatusPass(query)) {
-        return false;
-    }
-    loadUser(query);
-    const Fault tillFault{"999999", "SQL Error on Table: POSCOFTillMst :-\r", "MAIN000",
-                          "Get_CashOffice_Data"};
-    return shownAsFalse(tillFault, [&query] {
-        loadCashOfficeTill(query);
-        return true;
-    });
+    bool accepted = true;
+    readRows(gData->Velmara,
+             {
+                 "SELECT * FROM SysUser WITH (NOLOCK) ",
+                 " WHERE [UserCode] = " + QuotedStr(sli_UserCode),
+             },
+             dialogAndFalse("999999", "SQL Error reading Table: SysUser\r", errorClassUnit,
+                            "sli_VerifyUser"),
+             [&accepted](const Statement& user) { accepted = acceptUser(user); });
+    return accepted;
 }
 
 bool sli_VerifyUserCompany() {
@@ -296,24 +310,25 @@ bool sli_VerifyUserCompany() {
         gBranch = sli_DBDefBranch;
         return true;
     }
-    return shownAndThrownOn(
-        {"999999", "SQL Error reading Table: SysUserComp\r", faultUnit, "sli_VerifyUserCompany"},
-        [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM SysUserComp WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [UserCode] = " + QuotedStr(gUserCode));
-            query.SQL.Add("   AND [CO] = " + QuotedStr(sli_DBDefCO));
-            query.SQL.Add("   AND [Branch] = " + QuotedStr(sli_DBDefBranch));
-            query.Open();
-            if (query.IsEmpty()) {
-                return refuse(
+    return readRows(
+        gData->Velmara,
+        {
+            "SELECT * FROM SysUserComp WITH (NOLOCK) ",
+            " WHERE [UserCode] = " + QuotedStr(gUserCode),
+            "   AND [CO] = " + QuotedStr(sli_DBDefCO),
+            "   AND [Branch] = " + QuotedStr(sli_DBDefBranch),
+        },
+        dialogAndRaise("999999", "SQL Error reading Table: SysUserComp\r", errorClassUnit,
+                       "sli_VerifyUserCompany"),
+        [](const Statement& right) {
+            if (right.IsEmpty()) {
+                return falseBecause(
                     QStringLiteral(
                         "This User is NOT Allowed Access to :-\rCompany : %1 - Branch : %2")
                         .arg(sli_DBDefCO, sli_DBDefBranch));
             }
-            gCO = query.FieldByName("CO").AsString();
-            gBranch = query.FieldByName("Branch").AsString();
+            gCO = right.FieldByName("CO").AsString();
+            gBranch = right.FieldByName("Branch").AsString();
             gCmbCO = gCO;
             gCmbBranch = gBranch;
             return true;

@@ -2,6 +2,8 @@
 #include "data/DataUCMN.h"
 #include "data/DataUVEL.h"
 #include "data/DateTimeText.h"
+#include "data/Errors.h"
+#include "data/Prompts.h"
 #include "data/Settings.h"
 #include "data/StatementText.h"
 #include "data/SysDataModel.h"
@@ -94,13 +96,28 @@ bool takeOpenPeriod(const Statement& period, const QString& xToday) {
     if (period.FieldByName("APOpen").AsString() != QLatin1String("Y")) {
         if (!sli_Open_AccountingPeriod(period.FieldByName("AP").AsInteger())) {
             gErrorCode = 1;
-            return refuse(QStringLiteral("Accounting Period for : %1 is NOT OPEN").arg(xToday));
+            return falseBecause(
+                QStringLiteral("Accounting Period for : %1 is NOT OPEN").arg(xToday));
         }
         active = QStringLiteral("Y");
     }
     if (active != QLatin1String("Y")) {
         gErrorCode = 1;
-        return refuse(QStringLiteral("Accounting Period for : %1 is NOT ACTIVE").arg(xToday));
+        return falseBecause(QStringLiteral("Accounting Period for : %1 is NOT ACTIVE").arg(xToday));
+    }
+    takePeriod(period);
+    return true;
+}
+
+// The suite's tools take any period, whatever its flags.
+bool acceptPeriod(const Statement& period, const QString& xToday) {
+    const bool tool = moduleIs({"UTL", "MNU"});
+    if (period.IsEmpty()) {
+        return tool ? takeCalendarMonth(xToday)
+                    : falseBecause("Accounting Period NOT Defined for Date : " + xToday);
+    }
+    if (!tool) {
+        return takeOpenPeriod(period, xToday);
     }
     takePeriod(period);
     return true;
@@ -185,63 +202,53 @@ bool sli_VELMARA_LogIn() {
 }
 
 bool sli_LoadCompany() {
-    return shownAndThrownOn(
-        {"999999", "SQL Error on Table: SysCompany:\r", faultUnit, "sli_LoadCompany"}, [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM SysCompany WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-            query.Open();
-            if (query.IsEmpty()) {
-                return refuse(QStringLiteral("Company Data NOT FOUND for Company: ") + gCO);
-            }
-            copyText(query, companyColumns);
-            return true;
-        });
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysCompany WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                    },
+                    dialogAndRaise("999999", "SQL Error on Table: SysCompany:\r", errorClassUnit,
+                                   "sli_LoadCompany"),
+                    [](const Statement& company) {
+                        if (company.IsEmpty()) {
+                            return falseBecause("Company Data NOT FOUND for Company: " + gCO);
+                        }
+                        copyText(company, companyColumns);
+                        return true;
+                    });
 }
 
 bool sli_LoadBranch() {
-    return shownAndThrownOn(
-        {"999999", "SQL Error on Table: SysBranch:\r", faultUnit, "sli_LoadBranch"}, [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM SysBranch WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-            query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
-            query.Open();
-            if (query.IsEmpty()) {
-                return refuse(QStringLiteral("Branch Data NOT FOUND for Branch : [%1] - %2")
-                                  .arg(gCO, gBranch));
-            }
-            copyText(query, branchColumns);
-            return true;
-        });
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysBranch WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [Branch] = " + QuotedStr(gBranch),
+                    },
+                    dialogAndRaise("999999", "SQL Error on Table: SysBranch:\r", errorClassUnit,
+                                   "sli_LoadBranch"),
+                    [](const Statement& branch) {
+                        if (branch.IsEmpty()) {
+                            return falseBecause(
+                                QStringLiteral("Branch Data NOT FOUND for Branch : [%1] - %2")
+                                    .arg(gCO, gBranch));
+                        }
+                        copyText(branch, branchColumns);
+                        return true;
+                    });
 }
 
 bool sli_GetPeriod() {
-    const bool tool = moduleIs({"UTL", "MNU"});
     const QString today = sfg_Date(0);
-    return shownAndThrownOn(
-        {"500009", "SQL Error on Table: SYSAP :-\r", "SysLogIn", "sli_GetPeriod"}, [&] {
-            try {
-                Statement query(gData->Velmara);
-                sld_OpenPeriodOf(query, today);
-                if (query.IsEmpty()) {
-                    return tool ? takeCalendarMonth(today)
-                                : refuse(
-                                      QStringLiteral("Accounting Period NOT Defined for Date : ") +
-                                      today);
-                }
-                if (tool) {
-                    takePeriod(query);
-                    return true;
-                }
-                return takeOpenPeriod(query, today);
-            } catch (const std::exception&) {
-                gErrorCode = 1;
-                throw;
-            }
-        });
+    try {
+        return readRows(
+            gData->Velmara, sld_PeriodOf(today),
+            dialogAndRaise("500009", sqlErrorOnTable("SYSAP"), "SysLogIn", "sli_GetPeriod"),
+            [&today](const Statement& period) { return acceptPeriod(period, today); });
+    } catch (const std::runtime_error&) {
+        gErrorCode = 1;
+        throw;
+    }
 }
 
 bool sli_Open_AccountingPeriod(int xAP) {
@@ -251,13 +258,15 @@ bool sli_Open_AccountingPeriod(int xAP) {
                  QStringLiteral("Accounting Periods NOT Defined for : %1 and After").arg(previous));
         return false;
     }
-    sfg_AddSQL("UPDATE SYSAP SET "
-               "[Apactive] = " +
-                   QuotedStr("Y") +
-                   ","
-                   "[Apopen] = " +
-                   QuotedStr("Y") + " WHERE CO = " + QuotedStr(gCO) + " AND AP = " + QuotedStr(xAP),
-               "NEW");
+    sfg_AddSQL(
+        {
+            "UPDATE SYSAP SET ",
+            "[Apactive] = " + QuotedStr("Y") + ",",
+            "[Apopen] = " + QuotedStr("Y"),
+            " WHERE CO = " + QuotedStr(gCO),
+            " AND AP = " + QuotedStr(xAP),
+        },
+        "NEW");
     return gData->vel_ExecSQL(1);
 }
 
@@ -268,19 +277,19 @@ bool sli_SharedBranches() {
     for (const auto& [column, branch] : sharedBranchColumns) {
         *branch = gBranch;
     }
-    return shownAndThrownOn(
-        {"500007", "SQL Error on Table: SysBRShare\r", "SysLogIn", "sli_SharedBranches"}, [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM SysBRShare WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-            query.SQL.Add("   AND [Branch] = " + QuotedStr(gBranch));
-            query.Open();
-            if (!query.IsEmpty()) {
-                copyText(query, sharedBranchColumns);
-            }
-            return true;
-        });
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysBRShare WITH (NOLOCK) ",
+                        " WHERE [CO] = " + QuotedStr(gCO),
+                        "   AND [Branch] = " + QuotedStr(gBranch),
+                    },
+                    dialogAndRaise("500007", "SQL Error on Table: SysBRShare\r", "SysLogIn",
+                                   "sli_SharedBranches"),
+                    [](const Statement& shared) {
+                        if (!shared.IsEmpty()) {
+                            copyText(shared, sharedBranchColumns);
+                        }
+                    });
 }
 
 // What the loaders answer is not looked at: the session runs on what got loaded.
@@ -304,52 +313,54 @@ bool sli_LoadVelmaraSettings() {
 }
 
 bool sli_LoadCCYDetails() {
-    return shownAndThrownOn(
-        {"999999", "SQL Error on Table: SysCurrencyMst :-\r", faultUnit, "sli_LoadCCYDetails"}, [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM SysCurrencyMst WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [CCYCode] = " + QuotedStr(gCCY));
-            query.Open();
-            if (query.IsEmpty()) {
-                return false;
-            }
-            gCCYDesc = query.FieldByName("CCYName").AsString();
-            gCCYSymbol = query.FieldByName("CCYSymbol").AsString();
-            gCCYNumCode = query.FieldByName("CCYNumCode").AsInteger();
-            return true;
-        });
+    return readRows(gData->Velmara,
+                    {
+                        "SELECT * FROM SysCurrencyMst WITH (NOLOCK) ",
+                        " WHERE [CCYCode] = " + QuotedStr(gCCY),
+                    },
+                    dialogAndRaise("999999", sqlErrorOnTable("SysCurrencyMst"), errorClassUnit,
+                                   "sli_LoadCCYDetails"),
+                    [](const Statement& currency) {
+                        if (currency.IsEmpty()) {
+                            return false;
+                        }
+                        gCCYDesc = currency.FieldByName("CCYName").AsString();
+                        gCCYSymbol = currency.FieldByName("CCYSymbol").AsString();
+                        gCCYNumCode = currency.FieldByName("CCYNumCode").AsInteger();
+                        return true;
+                    });
 }
 
 void sli_LoadDefaultBank() {
-    shownAndThrownOn(
-        {"999999", "SQL Error on Table: GLGBankMaster :-\r", faultUnit, "sli_LoadDefaultBank"}, [] {
-            Statement query(gData->Velmara);
-            query.NewRead();
-            query.SQL.Add("SELECT * FROM GLGBankMaster WITH (NOLOCK) ");
-            query.SQL.Add(" WHERE [CO] = " + QuotedStr(gCO));
-            query.SQL.Add("   AND [BankCode] = " + QuotedStr(sfvel_GetParam("CO", 69)));
-            query.Open();
-            if (!query.IsEmpty()) {
-                gCOBankName = query.FieldByName("BankName").AsString();
-                gCOBranchCode = query.FieldByName("BranchCode").AsString();
-                gCOAccNo = query.FieldByName("BankAccNo").AsString();
-            }
-            return true;
-        });
+    readRows(gData->Velmara,
+             {
+                 "SELECT * FROM GLGBankMaster WITH (NOLOCK) ",
+                 " WHERE [CO] = " + QuotedStr(gCO),
+                 "   AND [BankCode] = " + QuotedStr(sfvel_GetParam("CO", 69)),
+             },
+             dialogAndRaise("999999", sqlErrorOnTable("GLGBankMaster"), errorClassUnit,
+                            "sli_LoadDefaultBank"),
+             [](const Statement& bank) {
+                 if (!bank.IsEmpty()) {
+                     gCOBankName = bank.FieldByName("BankName").AsString();
+                     gCOBranchCode = bank.FieldByName("BranchCode").AsString();
+                     gCOAccNo = bank.FieldByName("BankAccNo").AsString();
+                 }
+             });
 }
 
 void sli_Load_Velmara_Progs() {
     gVisProgs.clear();
-    shownAndThrownOn({"500008", "SQL Error on Table: vcMainMenu\r", "SysLogIn", "sli_LoadVisProgs"},
-                     [] {
-                         Statement query(cData->VelmaraCommon);
-                         query.NewRead();
-                         query.SQL.Add("SELECT * FROM vcMainMenu WITH (NOLOCK) ");
-                         query.SQL.Add("ORDER BY [PgmName] ");
-                         for (query.Open(); !query.Eof(); query.Next()) {
-                             gVisProgs.append(query.FieldByName("DisplayName").AsString());
-                         }
-                         return true;
-                     });
+    readRows(cData->VelmaraCommon,
+             {
+                 "SELECT * FROM vcMainMenu WITH (NOLOCK) ",
+                 "ORDER BY [PgmName] ",
+             },
+             dialogAndRaise("500008", "SQL Error on Table: vcMainMenu\r", "SysLogIn",
+                            "sli_LoadVisProgs"),
+             [](Statement& program) {
+                 for (; !program.Eof(); program.Next()) {
+                     gVisProgs.append(program.FieldByName("DisplayName").AsString());
+                 }
+             });
 }

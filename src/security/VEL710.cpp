@@ -73,10 +73,8 @@ TfrmVEL710::TfrmVEL710()
 void TfrmVEL710::FormShow() {
     edFormCode->setText(xFormCode);
     Statement query(cData->VelmaraCommon);
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM vcHelpHdr WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [FormCode] = " + QuotedStr(xFormCode));
-    query.Open();
+    query.Open(
+        {"SELECT * FROM vcHelpHdr WITH (NOLOCK) ", " WHERE [FormCode] = " + QuotedStr(xFormCode)});
     if (query.IsEmpty()) {
         showNothing();
         return;
@@ -106,11 +104,12 @@ void TfrmVEL710::loadPages() {
     auto* shortcuts = new ReferencePage(QStringLiteral("grdShortcut"), QStringLiteral("Shortcuts"),
                                         {"Module", "Shortcut Key", "Description"}, pages_);
     Statement query(cData->VelmaraCommon);
-    query.NewRead();
-    query.SQL.Add("SELECT * FROM vcHelpDetl WITH (NOLOCK) ");
-    query.SQL.Add(" WHERE [FormCode] = " + QuotedStr(xFormCode));
-    query.SQL.Add(" ORDER BY [Type], [ParamModCode] ");
-    for (query.Open(); !query.Eof(); query.Next()) {
+    query.Open({
+        "SELECT * FROM vcHelpDetl WITH (NOLOCK) ",
+        " WHERE [FormCode] = " + QuotedStr(xFormCode),
+        " ORDER BY [Type], [ParamModCode] ",
+    });
+    for (; !query.Eof(); query.Next()) {
         const QString type = query.FieldByName("Type").AsString();
         const QString code = query.FieldByName("ParamModCode").AsString();
         const QString notes = query.FieldByName("Notes").AsString();
