@@ -3,8 +3,8 @@
 #include "data/DataUVEL.h"
 #include "data/Errors.h"
 #include "data/Prompts.h"
+#include "data/Reading.h"
 #include "data/Session.h"
-#include "data/Statement.h"
 #include "data/StatementText.h"
 #include "data/SysLoadData.h"
 #include "screens/SysFuncGlobal.h"
@@ -150,25 +150,21 @@ QStringList DetailScreen::selectLines() const {
 }
 
 void DetailScreen::ExtractData() {
-    Statement row(gData->Velmara);
-    try {
-        row.NewRead();
-        for (const auto& line : selectLines()) {
-            row.SQL.Add(line);
-        }
-        row.Open();
-    } catch (const std::exception& error) {
-        const auto text =
-            facts_.errorText.isEmpty()
-                ? u"SQL Error reading object \"%1\". Details: "_s.arg(QLatin1String(facts_.table))
-                : facts_.errorText;
-        sfg_ErrorDlg(facts_.errorNo, text + u'\r' + errorText(error), unitName(), u"ExtractData"_s);
+    const auto text =
+        facts_.errorText.isEmpty()
+            ? u"SQL Error reading object \"%1\". Details: "_s.arg(QLatin1String(facts_.table))
+            : facts_.errorText;
+    const bool wasRead =
+        readRows(gData->Velmara, selectLines(),
+                 dialogAndFalse(facts_.errorNo, text + u'\r', unitName(), u"ExtractData"_s),
+                 [this](const Statement& row) {
+                     if (!row.IsEmpty()) {
+                         form_->load(row);
+                         rowLoaded(row);
+                     }
+                 });
+    if (!wasRead) {
         saveNothing();
-        return;
-    }
-    if (!row.IsEmpty()) {
-        form_->load(row);
-        rowLoaded(row);
     }
 }
 
