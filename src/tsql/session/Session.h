@@ -187,8 +187,6 @@ private:
     Flow execute(const DropObject& drop, Place& place);
     Flow execute(const CreateProcedure& create, Place& place);
     Flow execute(const CreateView& create, Place& place);
-    template <class Node>
-    Flow execute(const Node&, Place&);
 
     DatabaseFile file_;
     Catalogue catalogue_;

@@ -7,11 +7,6 @@ namespace velcro::sql::tsql {
 
 namespace {
 
-bool isKey(const Constraint& constraint) {
-    return constraint.kind == Constraint::Kind::PrimaryKey ||
-           constraint.kind == Constraint::Kind::Unique;
-}
-
 std::string slice(std::string_view text, const SourceRange& range) {
     return std::string(text.substr(range.begin, range.end - range.begin));
 }
@@ -46,9 +41,6 @@ DefaultSpec Session::defaultSpec(const Constraint& constraint, const Type& type,
 
 ColumnSpec Session::columnSpec(const ColumnDefinition& column, Place& place,
                                std::vector<KeySpec>& keys) {
-    if (column.computed.expr) {
-        raiseUnsupported("a computed column", line_);
-    }
     ColumnSpec spec;
     spec.name = column.name;
     spec.type = declaredType(column.type, line_);
@@ -59,10 +51,8 @@ ColumnSpec Session::columnSpec(const ColumnDefinition& column, Place& place,
     for (const auto& constraint : column.constraints) {
         if (constraint.kind == Constraint::Kind::Default) {
             spec.defaultValue = defaultSpec(constraint, spec.type, place);
-        } else if (isKey(constraint)) {
-            keys.push_back(keySpec(constraint, column.name));
         } else {
-            raiseUnsupported("CHECK and FOREIGN KEY constraints", line_);
+            keys.push_back(keySpec(constraint, column.name));
         }
     }
     return spec;
@@ -106,9 +96,6 @@ Session::Flow Session::execute(const CreateTable& create, Place& place) {
     std::vector<KeySpec> keys;
     const auto columns = columnSpecs(create.columns, place, keys);
     for (const auto& constraint : create.constraints) {
-        if (!isKey(constraint)) {
-            raiseUnsupported("CHECK and FOREIGN KEY constraints", line_);
-        }
         keys.push_back(keySpec(constraint, {}));
     }
     if (TemporaryTables::isTemporary(create.name.name)) {
@@ -135,16 +122,14 @@ void Session::alter(const std::string& table, const AlterTableAdd& add, Place& p
         ddl_.addColumns(table, columns);
     }
     for (const auto& constraint : add.constraints) {
-        if (isKey(constraint)) {
+        if (constraint.kind != Constraint::Kind::Default) {
             keys.push_back(keySpec(constraint, {}));
-        } else if (constraint.kind == Constraint::Kind::Default) {
+        } else {
             const TableDef* target = catalogue_.table(table);
             const ColumnDef* column =
                 target == nullptr ? nullptr : target->column(constraint.forColumn);
             const Type type = column == nullptr ? Type() : column->type;
             ddl_.addDefault(table, constraint.forColumn, defaultSpec(constraint, type, place));
-        } else {
-            raiseUnsupported("CHECK and FOREIGN KEY constraints", line_);
         }
     }
     for (const auto& key : keys) {
@@ -174,9 +159,6 @@ void Session::alter(const std::string& table, const AlterTableCheck&, Place&) {
 }
 
 Session::Flow Session::execute(const CreateIndex& create, Place& place) {
-    if (create.where.expr) {
-        raiseUnsupported("an index with WHERE", line_);
-    }
     IndexSpec index;
     index.name = create.name;
     index.unique = create.unique;
@@ -217,8 +199,6 @@ Session::Flow Session::execute(const DropObject& drop, Place& place) {
             case DropObject::Kind::View:
                 ddl_.dropView(name.name, drop.ifExists);
                 break;
-            default:
-                raiseUnsupported("DROP of this kind of object", line_);
             }
         }
     });

@@ -2,15 +2,8 @@
 #pragma once
 
 #include "tsql/session/Session.h"
-#include "tsql/values/Errors.h"
 
 namespace velcro::sql::tsql {
-
-/// Statements that have no routine of their own mean something only on a real server.
-template <class Node>
-Session::Flow Session::execute(const Node&, Place&) {
-    raiseUnsupported("this kind of statement", line_);
-}
 
 inline Session::Flow Session::visitStatement(const Statement& statement, Place& place) {
     return std::visit([&](const auto& node) { return execute(node, place); }, statement.node);

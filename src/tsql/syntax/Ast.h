@@ -259,16 +259,11 @@ struct FunctionCall
     bool distinct = false;
     std::optional<Window> over;
 };
-struct NextValueFor
-{
-    ObjectName sequence;
-};
 
-using ExprNode =
-    std::variant<Literal, NullLiteral, DefaultValue, Variable, GlobalVariable, NamedParameter,
-                 ColumnRef, Star, Unary, Binary, Comparison, Logical, Not, IsNull, Between, InList,
-                 InQuery, Like, Exists, Quantified, ScalarQuery, Case, Cast, Convert, Collate,
-                 FunctionCall, NextValueFor>;
+using ExprNode = std::variant<Literal, NullLiteral, DefaultValue, Variable, GlobalVariable,
+                              NamedParameter, ColumnRef, Star, Unary, Binary, Comparison, Logical,
+                              Not, IsNull, Between, InList, InQuery, Like, Exists, Quantified,
+                              ScalarQuery, Case, Cast, Convert, Collate, FunctionCall>;
 
 struct Expr
 {

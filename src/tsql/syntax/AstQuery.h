@@ -36,38 +36,25 @@ struct ValuesTable
     std::string alias;
     std::vector<std::string> columns;
 };
-struct FunctionTable
-{
-    ObjectName name;
-    std::vector<ExprPtr> arguments;
-    std::string alias;
-    std::vector<std::string> columns;
-};
-enum class JoinKind : std::uint8_t { Inner, Left, Right, Full, Cross, CrossApply, OuterApply };
+enum class JoinKind : std::uint8_t { Inner, Left, Right, Full, Cross };
 struct Join
 {
     JoinKind kind = JoinKind::Inner;
     TableSourcePtr left;
     TableSourcePtr right;
-    ExprPtr on; // null for the Cross kinds and OuterApply
+    ExprPtr on; // null for Cross
 };
 struct TableSource
 {
-    std::variant<NamedTable, DerivedTable, ValuesTable, FunctionTable, Join> node;
+    std::variant<NamedTable, DerivedTable, ValuesTable, Join> node;
     std::uint32_t offset = 0;
     std::uint16_t height = 1;
 };
 
-struct Top
-{
-    ExprPtr count;
-    bool percent = false;
-    bool withTies = false;
-};
 struct SelectCore
 {
     bool distinct = false;
-    std::optional<Top> top;
+    ExprPtr top; // may be null
     std::vector<SelectItem> items;
     std::optional<ObjectName> into;
     std::vector<TableSourcePtr> from; // separated by commas; empty without FROM
@@ -116,13 +103,6 @@ struct Select
     QueryPtr query;
     QueryHints hints;
 };
-/// OUTPUT inserted.x, deleted.y [INTO table (columns)].
-struct OutputClause
-{
-    std::vector<SelectItem> items;
-    std::optional<ObjectName> into;
-    std::vector<std::string> columns;
-};
 /// An argument of EXEC: by position when name is blank.
 struct Argument
 {
@@ -147,10 +127,9 @@ struct ExecuteText
 struct Insert
 {
     std::vector<CommonTable> with;
-    std::optional<Top> top;
     ObjectName table;
     std::vector<std::string> columns;
-    std::optional<OutputClause> output;
+    std::vector<SelectItem> output; // OUTPUT inserted.x
     // Exactly one of these four; an empty rows is DEFAULT VALUES when no other is there.
     std::vector<std::vector<ExprPtr>> rows;
     QueryPtr query;
@@ -181,11 +160,11 @@ struct Assignment
 struct Update
 {
     std::vector<CommonTable> with;
-    std::optional<Top> top;
+    ExprPtr top;       // may be null
     ObjectName target; // a table, or an alias or cte that FROM or WITH names
     TableHints targetHints;
     std::vector<Assignment> set;
-    std::optional<OutputClause> output;
+    std::vector<SelectItem> output; // OUTPUT inserted.x, deleted.y
     std::vector<TableSourcePtr> from;
     ExprPtr where;
     QueryHints hints;
@@ -193,10 +172,10 @@ struct Update
 struct Delete
 {
     std::vector<CommonTable> with;
-    std::optional<Top> top;
+    ExprPtr top; // may be null
     ObjectName target;
     TableHints targetHints;
-    std::optional<OutputClause> output;
+    std::vector<SelectItem> output;   // OUTPUT inserted.x, deleted.y
     std::vector<TableSourcePtr> from; // the second FROM
     ExprPtr where;
     QueryHints hints;
@@ -219,7 +198,6 @@ struct Merge
     TableSourcePtr source;
     ExprPtr on;
     std::vector<MergeWhen> when;
-    std::optional<OutputClause> output;
     QueryHints hints;
 };
 struct TruncateTable

@@ -32,33 +32,26 @@ struct KeptExpr
 /// A constraint of a table or of one column; name is blank when the server has to make one.
 struct Constraint
 {
-    enum class Kind : std::uint8_t { PrimaryKey, Unique, Check, ForeignKey, Default };
+    enum class Kind : std::uint8_t { PrimaryKey, Unique, Default };
     Kind kind = Kind::PrimaryKey;
     std::string name;
-    std::optional<bool> clustered; // as written
-    std::vector<IndexColumn>
-        columns; // keys, or of a ForeignKey; empty inside a column's definition
+    std::optional<bool> clustered;    // as written
+    std::vector<IndexColumn> columns; // keys; empty inside a column's definition
     std::vector<IndexOption> options;
     std::string filegroup;
-    KeptExpr expr;         // of Check and Default
+    KeptExpr expr;         // of Default
     std::string forColumn; // DEFAULT ... FOR column
-    ObjectName references; // of a ForeignKey
-    std::vector<std::string> referencedColumns;
-    std::string onDelete; // "CASCADE", "NO ACTION", "SET NULL", "SET DEFAULT" or blank
-    std::string onUpdate;
     std::uint32_t offset = 0;
 };
 struct ColumnDefinition
 {
     std::string name;
     DataType type;
-    KeptExpr computed; // name AS expression; then there is no type
-    bool persisted = false;
     std::string collation;
     std::optional<bool> nullable; // as written
     std::optional<Identity> identity;
     bool rowGuid = false;
-    std::vector<Constraint> constraints; // Default, PrimaryKey, Unique, Check, ForeignKey
+    std::vector<Constraint> constraints; // Default, PrimaryKey, Unique
     std::uint32_t offset = 0;
 };
 struct CreateTable
@@ -114,7 +107,6 @@ struct CreateIndex
     ObjectName table;
     std::vector<IndexColumn> columns;
     std::vector<std::string> included;
-    KeptExpr where;
     std::vector<IndexOption> options;
     std::string filegroup;
     std::uint32_t nameOffset = 0;
@@ -133,15 +125,7 @@ struct DropIndex
 };
 struct DropObject
 {
-    enum class Kind : std::uint8_t {
-        Table,
-        View,
-        Procedure,
-        Function,
-        Trigger,
-        Sequence,
-        Database
-    };
+    enum class Kind : std::uint8_t { Table, View, Procedure };
     Kind kind = Kind::Table;
     bool ifExists = false;
     std::vector<ObjectName> names;
@@ -174,25 +158,6 @@ struct CreateView
     SourceRange source;
     SourceRange body; // the query
 };
-struct CreateSequence
-{
-    ObjectName name;
-    std::optional<DataType> type;
-    std::optional<std::int64_t> start;
-    std::optional<std::int64_t> increment;
-    std::optional<std::int64_t> minimum;
-    std::optional<std::int64_t> maximum;
-    bool cycle = false;
-};
-struct CreateDatabase
-{
-    std::string name;
-};
-struct CreateSchema
-{
-    std::string name;
-};
-
 // ---- control flow --------------------------------------------------------------------------------
 
 struct Declare
@@ -286,10 +251,9 @@ struct Use
 
 using StatementNode =
     std::variant<Select, Insert, Update, Delete, Merge, TruncateTable, CreateTable, AlterTable,
-                 CreateIndex, DropIndex, DropObject, CreateProcedure, CreateView, CreateSequence,
-                 CreateDatabase, CreateSchema, Execute, ExecuteText, Declare, SetVariable,
-                 SetOption, If, Block, While, Break, Continue, Return, Print, RaiseError, Throw,
-                 TryCatch, Transaction, Use>;
+                 CreateIndex, DropIndex, DropObject, CreateProcedure, CreateView, Execute,
+                 ExecuteText, Declare, SetVariable, SetOption, If, Block, While, Break, Continue,
+                 Return, Print, RaiseError, Throw, TryCatch, Transaction, Use>;
 
 struct Statement
 {

@@ -100,7 +100,6 @@ private:
     ExprPtr caseExpression();
     ExprPtr castCall(bool isTry);
     ExprPtr convertCall(bool isTry);
-    ExprPtr nextValueFor();
     ExprPtr nameOperand();
     ExprPtr callOf(ObjectName name, Place place);
     void callArguments(FunctionCall& call);
@@ -117,7 +116,7 @@ private:
     QueryBodyPtr queryTerm();
     QueryBodyPtr setOperation(SetOperator op, QueryBodyPtr left, QueryBodyPtr right);
     SelectCore selectCore();
-    std::optional<Top> top();
+    ExprPtr top();
     SelectItem selectItem();
     std::optional<Star> qualifiedStar();
     std::vector<OrderItem> orderBy();
@@ -156,7 +155,7 @@ private:
     std::vector<Assignment> assignments();
     Assignment assignment();
     AssignOp assignOp();
-    std::optional<OutputClause> output();
+    std::vector<SelectItem> output();
     ExprPtr where();
     TableHints targetHints();
     std::vector<std::string> columnList();
@@ -166,6 +165,7 @@ private:
     StatementNode create();
     StatementNode alter();
     StatementNode drop();
+    [[noreturn]] void refuseOtherObject(const std::string& verb) const;
     CreateTable createTable();
     void tableElements(std::vector<ColumnDefinition>& columns,
                        std::vector<Constraint>& constraints);
@@ -175,11 +175,8 @@ private:
     Constraint constraint(bool ofTable);
     void keyConstraint(Constraint& constraint, bool ofTable);
     void defaultConstraint(Constraint& constraint, bool ofTable);
-    void foreignKey(Constraint& constraint, bool ofTable);
-    std::string referentialAction();
-    void acceptNotForReplication();
     Identity identity();
-    KeptExpr kept(bool isCondition);
+    KeptExpr kept();
     std::optional<bool> clustering();
     std::vector<IndexColumn> indexColumns();
     std::vector<IndexOption> indexOptions();
@@ -192,8 +189,6 @@ private:
     CreateIndex createIndex();
     DropIndex dropIndex();
     DropObject dropObject();
-    CreateSequence createSequence();
-    bool sequenceOption(CreateSequence& sequence);
     CreateView createView(DefineMode mode, std::uint32_t begin);
     CreateProcedure createProcedure(DefineMode mode, std::uint32_t begin);
     ProcedureParameter procedureParameter();

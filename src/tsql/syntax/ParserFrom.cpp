@@ -27,13 +27,6 @@ bool isKnownHint(const Token& token) {
            std::binary_search(knownHints.begin(), knownHints.end(), name);
 }
 
-std::uint16_t heightOf(const FunctionTable& table) {
-    std::uint16_t height = 0;
-    for (const ExprPtr& argument : table.arguments) {
-        height = std::max(height, argument->height);
-    }
-    return height;
-}
 std::uint16_t heightOf(const NamedTable&) {
     return 0;
 }
@@ -73,8 +66,7 @@ TableSourcePtr Descent::joinedTable() {
         Join join;
         join.kind = *kind;
         join.left = std::move(left);
-        const bool conditional = *kind != JoinKind::Cross && *kind != JoinKind::CrossApply &&
-                                 *kind != JoinKind::OuterApply;
+        const bool conditional = *kind != JoinKind::Cross;
         join.right = conditional ? joinedRight() : tablePrimary();
         if (conditional) {
             in_.expect(Keyword::On);
@@ -92,7 +84,7 @@ TableSourcePtr Descent::joinedRight() {
     TableSourcePtr right = tablePrimary();
     while (!in_.is(Keyword::On)) {
         const auto kind = joinKind();
-        if (!kind || *kind == JoinKind::CrossApply || *kind == JoinKind::OuterApply) {
+        if (!kind) {
             in_.refuseHere();
         }
         Join join;
@@ -110,18 +102,13 @@ TableSourcePtr Descent::joinedRight() {
 }
 
 // join kind := [INNER | (LEFT | RIGHT | FULL) [OUTER]] [HASH | LOOP | MERGE] JOIN | CROSS JOIN
-//            | (CROSS | OUTER) APPLY
 std::optional<JoinKind> Descent::joinKind() {
+    if ((in_.is(Keyword::Cross) || in_.is(Keyword::Outer)) && in_.isWordAt(1, "APPLY")) {
+        in_.refuseUnsupported("APPLY");
+    }
     if (in_.accept(Keyword::Cross)) {
-        if (in_.acceptWord("APPLY")) {
-            return JoinKind::CrossApply;
-        }
         in_.expect(Keyword::Join);
         return JoinKind::Cross;
-    }
-    if (in_.accept(Keyword::Outer)) {
-        in_.expectWord("APPLY");
-        return JoinKind::OuterApply;
     }
     if (in_.accept(Keyword::Join)) {
         return JoinKind::Inner;
@@ -181,23 +168,12 @@ void Descent::derivedAlias(std::string& alias, std::vector<std::string>& columns
     }
 }
 
-// named := object [hints] [[AS] alias] [hints] | object '(' values ')' [[AS] alias]
+// named := object [hints] [[AS] alias] [hints]
 TableSourcePtr Descent::namedTable() {
     const std::uint32_t offset = in_.offset();
     ObjectName name = objectName();
     if (in_.is(Op::Open) && !isKnownHint(in_.tokenAt(1))) {
-        FunctionTable table;
-        table.name = std::move(name);
-        in_.take();
-        if (!in_.is(Op::Close)) {
-            list([&] { table.arguments.push_back(value()); });
-        }
-        in_.expect(Op::Close);
-        table.alias = optionalAlias(false);
-        if (!table.alias.empty() && in_.is(Op::Open)) {
-            table.columns = bracketedNames();
-        }
-        return source(std::move(table), offset);
+        in_.refuseUnsupported("the table function " + name.name);
     }
     NamedTable table;
     table.name = std::move(name);

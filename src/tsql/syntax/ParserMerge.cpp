@@ -3,8 +3,7 @@
 
 namespace velcro::sql::tsql {
 
-// merge := MERGE [INTO] object [hints] [[AS] alias] USING table ON condition {when} [OUTPUT ...]
-//          [OPTION ...] ';'
+// merge := MERGE [INTO] object [hints] [[AS] alias] USING table ON condition {when} [OPTION ...] ';'
 Merge Descent::merge(std::vector<CommonTable> with) {
     Merge merge;
     merge.with = std::move(with);
@@ -25,7 +24,9 @@ Merge Descent::merge(std::vector<CommonTable> with) {
     do {
         merge.when.push_back(mergeWhen());
     } while (in_.is(Keyword::When));
-    merge.output = output();
+    if (in_.isWordNow("OUTPUT")) {
+        in_.refuseUnsupported("OUTPUT in a MERGE");
+    }
     merge.hints = queryHints();
     if (!in_.is(Op::Semicolon)) {
         in_.refuseWith(10713, {});

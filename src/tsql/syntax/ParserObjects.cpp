@@ -1,10 +1,9 @@
-// CREATE, ALTER and DROP: which object, and indexes, views, sequences and procedures.
+// CREATE, ALTER and DROP: which object, and indexes, views and procedures.
 #include "tsql/syntax/Descent.h"
 
 namespace velcro::sql::tsql {
 
-// create := CREATE (TABLE | [UNIQUE] [clustering] INDEX | [OR ALTER] (PROCEDURE | VIEW) | SEQUENCE
-//         | DATABASE | SCHEMA) ...
+// create := CREATE (TABLE | [UNIQUE] [clustering] INDEX | [OR ALTER] (PROCEDURE | VIEW)) ...
 StatementNode Descent::create() {
     reusable_ = false;
     const std::uint32_t begin = in_.offset();
@@ -31,22 +30,26 @@ StatementNode Descent::create() {
     case Keyword::Nonclustered:
     case Keyword::Index:
         return createIndex();
+    default:
+        refuseOtherObject("CREATE ");
+    }
+}
+
+/// Objects that a server knows and this engine does not are told from words that are no object.
+void Descent::refuseOtherObject(const std::string& verb) const {
+    switch (in_.current().keyword) {
     case Keyword::Database:
-        in_.take();
-        return CreateDatabase{in_.expectName()};
     case Keyword::Schema:
-        in_.take();
-        return CreateSchema{in_.expectName()};
+    case Keyword::Index:
     case Keyword::Function:
     case Keyword::Trigger:
-        in_.refuseUnsupported("CREATE " + upper(in_.token().text));
+        in_.refuseUnsupported(verb + upper(in_.token().text));
     default:
-        break;
+        if (in_.isWordNow("SEQUENCE")) {
+            in_.refuseUnsupported(verb + "SEQUENCE");
+        }
+        in_.refuseHere();
     }
-    if (in_.isWordNow("SEQUENCE")) {
-        return createSequence();
-    }
-    in_.refuseHere();
 }
 
 // alter := ALTER (TABLE | PROCEDURE | VIEW) ...
@@ -62,17 +65,12 @@ StatementNode Descent::alter() {
         return createProcedure(DefineMode::Alter, begin);
     case Keyword::View:
         return createView(DefineMode::Alter, begin);
-    case Keyword::Database:
-    case Keyword::Index:
-    case Keyword::Function:
-    case Keyword::Trigger:
-        in_.refuseUnsupported("ALTER " + upper(in_.token().text));
     default:
-        in_.refuseHere();
+        refuseOtherObject("ALTER ");
     }
 }
 
-// drop := DROP (INDEX | TABLE | VIEW | PROCEDURE | SEQUENCE | DATABASE ...) [IF EXISTS] objects
+// drop := DROP (INDEX | TABLE | VIEW | PROCEDURE) [IF EXISTS] objects
 StatementNode Descent::drop() {
     reusable_ = false;
     in_.expect(Keyword::Drop);
@@ -96,20 +94,8 @@ DropObject Descent::dropObject() {
     case Keyword::Proc:
         result.kind = Kind::Procedure;
         break;
-    case Keyword::Function:
-        result.kind = Kind::Function;
-        break;
-    case Keyword::Trigger:
-        result.kind = Kind::Trigger;
-        break;
-    case Keyword::Database:
-        result.kind = Kind::Database;
-        break;
     default:
-        if (!in_.isWordNow("SEQUENCE")) {
-            in_.refuseHere();
-        }
-        result.kind = Kind::Sequence;
+        refuseOtherObject("DROP ");
     }
     in_.take();
     result.ifExists = ifExists();
@@ -151,7 +137,7 @@ DropIndex Descent::dropIndex() {
 }
 
 // create index := [UNIQUE] [clustering] INDEX name ON object columns [INCLUDE '(' names ')']
-//                 [WHERE condition] [WITH options] [ON filegroup]
+//                 [WITH options] [ON filegroup]
 CreateIndex Descent::createIndex() {
     CreateIndex index;
     index.unique = in_.accept(Keyword::Unique);
@@ -165,54 +151,12 @@ CreateIndex Descent::createIndex() {
     if (in_.acceptWord("INCLUDE")) {
         index.included = bracketedNames();
     }
-    if (in_.accept(Keyword::Where)) {
-        index.where = kept(true);
+    if (in_.is(Keyword::Where)) {
+        in_.refuseUnsupported("an index with WHERE");
     }
     index.options = indexOptions();
     index.filegroup = filegroup();
     return index;
-}
-
-// sequence := SEQUENCE object [AS type] {START WITH n | INCREMENT BY n | [NO] MINVALUE [n]
-//           | [NO] MAXVALUE [n] | [NO] CYCLE | [NO] CACHE [n]}
-CreateSequence Descent::createSequence() {
-    CreateSequence sequence;
-    in_.expectWord("SEQUENCE");
-    sequence.name = objectName();
-    if (in_.accept(Keyword::As)) {
-        sequence.type = dataType();
-    }
-    while (sequenceOption(sequence)) {
-    }
-    return sequence;
-}
-
-bool Descent::sequenceOption(CreateSequence& sequence) {
-    if (in_.acceptWord("START")) {
-        in_.expect(Keyword::With);
-        sequence.start = signedInteger();
-    } else if (in_.acceptWord("INCREMENT")) {
-        in_.expect(Keyword::By);
-        sequence.increment = signedInteger();
-    } else if (in_.acceptWord("NO")) {
-        if (!in_.acceptWord("MINVALUE") && !in_.acceptWord("MAXVALUE") &&
-            !in_.acceptWord("CACHE")) {
-            in_.expectWord("CYCLE");
-        }
-    } else if (in_.acceptWord("MINVALUE")) {
-        sequence.minimum = signedInteger();
-    } else if (in_.acceptWord("MAXVALUE")) {
-        sequence.maximum = signedInteger();
-    } else if (in_.acceptWord("CYCLE")) {
-        sequence.cycle = true;
-    } else if (in_.acceptWord("CACHE")) {
-        if (in_.is(TokenKind::Integer)) {
-            in_.take();
-        }
-    } else {
-        return false;
-    }
-    return true;
 }
 
 void Descent::requireFirst(std::string_view what) {

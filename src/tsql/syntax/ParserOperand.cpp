@@ -80,7 +80,7 @@ ExprPtr Descent::wordOperand() {
             return castCall(true);
         }
         if (in_.isWordNow("NEXT") && in_.isWordAt(1, "VALUE") && in_.isAt(2, Keyword::For)) {
-            return nextValueFor();
+            in_.refuseUnsupported("NEXT VALUE FOR");
         }
         return nameOperand();
     case Keyword::Null:
@@ -163,19 +163,6 @@ ExprPtr Descent::convertCall(bool isTry) {
     }
     in_.expect(Op::Close);
     return node(std::move(convert), place);
-}
-
-// next := NEXT VALUE FOR object
-ExprPtr Descent::nextValueFor() {
-    const Place place = here();
-    in_.expectWord("NEXT");
-    in_.expectWord("VALUE");
-    in_.expect(Keyword::For);
-    NextValueFor next{objectName()};
-    if (in_.is(Keyword::Over)) {
-        in_.refuseUnsupported("NEXT VALUE FOR ... OVER");
-    }
-    return node(std::move(next), place);
 }
 
 // name := parts ['.' '*' | '(' arguments ')' [over]]

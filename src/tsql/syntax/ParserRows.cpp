@@ -20,12 +20,14 @@ StatementNode Descent::rowsStatement() {
     }
 }
 
-// insert := INSERT [TOP ...] [INTO] object [hints] ['(' names ')'] [OUTPUT ...] source [OPTION ...]
+// insert := INSERT [INTO] object [hints] ['(' names ')'] [OUTPUT ...] source [OPTION ...]
 Insert Descent::insert(std::vector<CommonTable> with) {
     Insert insert;
     insert.with = std::move(with);
     in_.expect(Keyword::Insert);
-    insert.top = top();
+    if (in_.is(Keyword::Top)) {
+        in_.refuseUnsupported("INSERT TOP");
+    }
     in_.accept(Keyword::Into);
     insert.table = objectName();
     withHints();
@@ -163,20 +165,16 @@ AssignOp Descent::assignOp() {
     }
 }
 
-// output := [OUTPUT items [INTO object ['(' names ')']]]
-std::optional<OutputClause> Descent::output() {
-    if (!in_.acceptWord("OUTPUT")) {
-        return std::nullopt;
-    }
-    OutputClause clause;
-    list([&] { clause.items.push_back(selectItem()); });
-    if (in_.accept(Keyword::Into)) {
-        clause.into = objectName();
-        if (in_.is(Op::Open)) {
-            clause.columns = bracketedNames();
+// output := [OUTPUT items]
+std::vector<SelectItem> Descent::output() {
+    std::vector<SelectItem> items;
+    if (in_.acceptWord("OUTPUT")) {
+        list([&] { items.push_back(selectItem()); });
+        if (in_.is(Keyword::Into)) {
+            in_.refuseUnsupported("OUTPUT INTO");
         }
     }
-    return clause;
+    return items;
 }
 
 } // namespace velcro::sql::tsql

@@ -140,28 +140,28 @@ ExprPtr Descent::where() {
     return condition();
 }
 
-// top := [TOP (number | '(' value ')') [PERCENT] [WITH TIES]]
-std::optional<Top> Descent::top() {
+// top := [TOP (number | '(' value ')')]
+ExprPtr Descent::top() {
     if (!in_.accept(Keyword::Top)) {
-        return std::nullopt;
+        return nullptr;
     }
-    Top top;
+    ExprPtr count;
     if (in_.accept(Op::Open)) {
-        top.count = value();
+        count = value();
         in_.expect(Op::Close);
     } else if (in_.is(TokenKind::Integer) || in_.is(TokenKind::Float) ||
                in_.is(TokenKind::Decimal)) {
-        top.count = literal();
+        count = literal();
     } else {
         in_.refuseHere();
     }
-    top.percent = in_.accept(Keyword::Percent);
-    if (in_.is(Keyword::With) && in_.isWordAt(1, "TIES")) {
-        in_.take();
-        in_.take();
-        top.withTies = true;
+    if (in_.is(Keyword::Percent)) {
+        in_.refuseUnsupported("TOP PERCENT");
     }
-    return top;
+    if (in_.is(Keyword::With) && in_.isWordAt(1, "TIES")) {
+        in_.refuseUnsupported("TOP WITH TIES");
+    }
+    return count;
 }
 
 // item := '*' | parts '.' '*' | @variable '=' value | name '=' value | value [alias]

@@ -39,17 +39,15 @@ void Descent::tableElements(std::vector<ColumnDefinition>& columns,
     } while (in_.accept(Op::Comma));
 }
 
-// column := name (type {option} | AS value [PERSISTED])
+// column := name type {option}
 ColumnDefinition Descent::columnDefinition() {
     ColumnDefinition column;
     column.offset = in_.offset();
     column.name = in_.expectName();
-    if (in_.accept(Keyword::As)) {
-        column.computed = kept(false);
-        column.persisted = in_.acceptWord("PERSISTED");
-    } else {
-        column.type = dataType();
+    if (in_.is(Keyword::As)) {
+        in_.refuseUnsupported("a computed column");
     }
+    column.type = dataType();
     while (columnOption(column)) {
     }
     return column;
@@ -109,8 +107,7 @@ bool Descent::atConstraint() const {
     }
 }
 
-// constraint := [CONSTRAINT name] (PRIMARY KEY ... | UNIQUE ... | CHECK '(' condition ')'
-//             | DEFAULT ... | FOREIGN KEY '(' names ')' REFERENCES ... | REFERENCES ...)
+// constraint := [CONSTRAINT name] (PRIMARY KEY ... | UNIQUE ... | DEFAULT ...)
 Constraint Descent::constraint(bool ofTable) {
     using Kind = Constraint::Kind;
     Constraint result;
@@ -125,28 +122,15 @@ Constraint Descent::constraint(bool ofTable) {
     } else if (in_.accept(Keyword::Unique)) {
         result.kind = Kind::Unique;
         keyConstraint(result, ofTable);
-    } else if (in_.accept(Keyword::Check)) {
-        result.kind = Kind::Check;
-        acceptNotForReplication();
-        in_.expect(Op::Open);
-        result.expr = kept(true);
-        in_.expect(Op::Close);
     } else if (in_.accept(Keyword::Default)) {
         result.kind = Kind::Default;
         defaultConstraint(result, ofTable);
+    } else if (in_.is(Keyword::Check) || in_.is(Keyword::Foreign) || in_.is(Keyword::References)) {
+        in_.refuseUnsupported("CHECK and FOREIGN KEY constraints");
     } else {
-        result.kind = Kind::ForeignKey;
-        foreignKey(result, ofTable);
+        in_.refuseHere();
     }
     return result;
-}
-
-void Descent::acceptNotForReplication() {
-    if (in_.is(Keyword::Not) && in_.isAt(1, Keyword::For)) {
-        in_.take();
-        in_.take();
-        in_.expect(Keyword::Replication);
-    }
 }
 
 // key := [CLUSTERED | NONCLUSTERED] ['(' index columns ')'] [WITH options] [ON filegroup]
@@ -161,62 +145,17 @@ void Descent::keyConstraint(Constraint& constraint, bool ofTable) {
 
 // default := value [FOR name] [WITH VALUES]
 void Descent::defaultConstraint(Constraint& constraint, bool ofTable) {
-    constraint.expr = kept(false);
+    constraint.expr = kept();
     if (ofTable) {
         in_.expect(Keyword::For);
         constraint.forColumn = in_.expectName();
     }
 }
 
-// foreign key := [FOREIGN KEY ['(' names ')']] REFERENCES object ['(' names ')']
-//                {ON (DELETE | UPDATE) action}
-void Descent::foreignKey(Constraint& constraint, bool ofTable) {
-    if (in_.accept(Keyword::Foreign)) {
-        in_.expect(Keyword::Key);
-        if (ofTable) {
-            for (std::string& name : bracketedNames()) {
-                constraint.columns.push_back({std::move(name), false});
-            }
-        }
-    } else if (ofTable) {
-        in_.refuseHere();
-    }
-    in_.expect(Keyword::References);
-    constraint.references = objectName();
-    if (in_.is(Op::Open)) {
-        constraint.referencedColumns = bracketedNames();
-    }
-    while (in_.accept(Keyword::On)) {
-        const bool onDelete = in_.accept(Keyword::Delete);
-        if (!onDelete) {
-            in_.expect(Keyword::Update);
-        }
-        (onDelete ? constraint.onDelete : constraint.onUpdate) = referentialAction();
-    }
-    acceptNotForReplication();
-}
-
-// action := NO ACTION | CASCADE | SET NULL | SET DEFAULT
-std::string Descent::referentialAction() {
-    if (in_.acceptWord("NO")) {
-        in_.expectWord("ACTION");
-        return "NO ACTION";
-    }
-    if (in_.acceptWord("CASCADE")) {
-        return "CASCADE";
-    }
-    in_.expect(Keyword::Set);
-    if (in_.accept(Keyword::Null)) {
-        return "SET NULL";
-    }
-    in_.expect(Keyword::Default);
-    return "SET DEFAULT";
-}
-
-KeptExpr Descent::kept(bool isCondition) {
+KeptExpr Descent::kept() {
     KeptExpr result;
     result.source.begin = in_.offset();
-    result.expr = isCondition ? condition() : value();
+    result.expr = value();
     result.source.end = in_.endOfLast();
     return result;
 }
@@ -275,7 +214,7 @@ std::vector<IndexOption> Descent::indexOptions() {
 std::string Descent::filegroup() {
     const bool named = in_.is(Keyword::On) && (in_.isAt(1, TokenKind::QuotedIdentifier) ||
                                                in_.isAt(1, TokenKind::Identifier));
-    if (!named || in_.isAt(1, Keyword::Delete) || in_.isAt(1, Keyword::Update)) {
+    if (!named) {
         return {};
     }
     in_.take();

@@ -22,6 +22,7 @@ int of(const std::vector<ExprPtr>& list) {
 int of(const std::optional<Window>& window) {
     int height = window ? of(window->partitionBy) : 0;
     if (window) {
+        height = std::max({height, of(window->from.count), of(window->to.count)});
         for (const OrderItem& item : window->orderBy) {
             height = std::max(height, of(item.expr));
         }
@@ -33,12 +34,18 @@ int highest(const Children&... children) {
     return std::max({0, of(children)...});
 }
 
+/// One function a node, no catch-all: a node that is new does not compile until it is told here
+/// what stands below it.
 struct Below
 {
-    template <class Leaf>
-    int operator()(const Leaf&) const {
-        return 0;
-    }
+    int operator()(const Literal&) const { return 0; }
+    int operator()(const NullLiteral&) const { return 0; }
+    int operator()(const DefaultValue&) const { return 0; }
+    int operator()(const Variable&) const { return 0; }
+    int operator()(const GlobalVariable&) const { return 0; }
+    int operator()(const NamedParameter&) const { return 0; }
+    int operator()(const ColumnRef&) const { return 0; }
+    int operator()(const Star&) const { return 0; }
     int operator()(const Unary& node) const { return highest(node.operand); }
     int operator()(const Binary& node) const { return highest(node.left, node.right); }
     int operator()(const Comparison& node) const { return highest(node.left, node.right); }

@@ -179,7 +179,6 @@ private:
     std::string emitSource(const NamedTable& table, Scope& scope);
     std::string emitSource(const DerivedTable& table, Scope& scope);
     std::string emitSource(const ValuesTable& table, Scope& scope);
-    std::string emitSource(const FunctionTable& table, Scope& scope);
     std::string emitSource(const Join& join, Scope& scope);
     const TableDef& requireTable(const ObjectName& name) const;
     static Source tableSource(const TableDef& table, std::string alias);
@@ -196,7 +195,7 @@ private:
                             const std::vector<const ColumnDef*>& columns);
     std::string rowValue(const Expr& expr, const TableDef& table, const ColumnDef& column,
                          const Scope& scope);
-    std::string returning(const OutputClause& output, const TableDef& table,
+    std::string returning(const std::vector<SelectItem>& output, const TableDef& table,
                           std::string_view pseudoTable, std::vector<ResultColumn>& columns);
 
     // EmitterUpdate.cpp

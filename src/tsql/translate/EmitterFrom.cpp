@@ -134,10 +134,6 @@ std::string Emitter::emitSource(const ValuesTable& values, Scope& scope) {
     return "(" + text + ") AS " + quoteName(values.alias);
 }
 
-std::string Emitter::emitSource(const FunctionTable& function, Scope&) {
-    raiseUnsupported("the table function " + writtenName(function.name), line_);
-}
-
 std::string Emitter::emitSource(const Join& join, Scope& scope) {
     std::string text = sourceText(*join.left, scope);
     switch (join.kind) {
@@ -154,8 +150,6 @@ std::string Emitter::emitSource(const Join& join, Scope& scope) {
     case JoinKind::Full:
         text += " FULL JOIN ";
         break;
-    default:
-        raiseUnsupported("APPLY", line_);
     }
     const std::string right = sourceText(*join.right, scope);
     text += std::holds_alternative<Join>(join.right->node) ? "(" + right + ")" : right;

@@ -58,9 +58,6 @@ std::string Emitter::insertHead(const TableDef& table,
 
 Translation Emitter::insert(const Insert& statement) {
     const TableDef& table = requireTable(statement.table);
-    if (statement.top) {
-        raiseUnsupported("INSERT TOP", line_);
-    }
     std::string text = withText(statement.with, statement.hints);
     if (statement.rows.empty() && !statement.query) {
         text += "INSERT INTO " + quoteName(table.name) + " DEFAULT VALUES";
@@ -71,8 +68,8 @@ Translation Emitter::insert(const Insert& statement) {
                                 : insertRows(statement, table, columns);
     }
     std::vector<ResultColumn> output;
-    if (statement.output) {
-        text += returning(*statement.output, table, "inserted", output);
+    if (!statement.output.empty()) {
+        text += returning(statement.output, table, "inserted", output);
     }
     Translation result = finish(std::move(text), "INSERT", std::move(output));
     result.setsIdentity = table.identityColumn() != nullptr;
@@ -148,16 +145,13 @@ Translation Emitter::insertBound(const Insert& statement, std::span<const Result
 
 /// OUTPUT inserted.x: the columns of the row as it is after an insert or update, or was before a
 /// delete. What an update replaced is gone by then.
-std::string Emitter::returning(const OutputClause& output, const TableDef& table,
+std::string Emitter::returning(const std::vector<SelectItem>& output, const TableDef& table,
                                std::string_view pseudoTable, std::vector<ResultColumn>& columns) {
-    if (output.into) {
-        raiseUnsupported("OUTPUT INTO", line_);
-    }
     Scope scope;
     Source source = tableSource(table, std::string(pseudoTable));
     scope.add(std::move(source));
     Core core;
-    for (const auto& item : output.items) {
+    for (const auto& item : output) {
         addItem(item, scope, core);
     }
     std::string text;

@@ -20,9 +20,6 @@ std::string targetAlias(const Merge& statement) {
 std::vector<Translation> Emitter::merge(const Merge& statement, const Names& names,
                                         Literals literals) {
     std::vector<Translation> parts;
-    if (statement.output) {
-        raiseUnsupported("OUTPUT in a MERGE");
-    }
     using Match = MergeWhen::Match;
     for (const auto match :
          {Match::Matched, Match::NotMatchedBySource, Match::NotMatchedByTarget}) {

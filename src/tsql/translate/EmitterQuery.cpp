@@ -205,12 +205,8 @@ std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& s
 }
 
 std::string Emitter::limitText(const SelectCore* select, const Query& query, const Scope& scope) {
-    const bool hasTop = select != nullptr && select->top.has_value();
-    if (hasTop && (select->top->percent || select->top->withTies)) {
-        raiseUnsupported(select->top->percent ? "TOP PERCENT" : "TOP WITH TIES", line_);
-    }
-    if (hasTop) {
-        return " LIMIT " + as(valueOf(*select->top->count, scope), bigIntType);
+    if (select != nullptr && select->top) {
+        return " LIMIT " + as(valueOf(*select->top, scope), bigIntType);
     }
     if (!query.offset && !query.fetch) {
         return {};

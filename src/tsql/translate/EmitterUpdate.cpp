@@ -60,7 +60,7 @@ Translation Emitter::update(const Update& statement) {
     if (statement.from.empty() && with.empty()) {
         return updatePlain(statement, requireTable(statement.target));
     }
-    if (statement.output || statement.top) {
+    if (!statement.output.empty() || statement.top) {
         raiseUnsupported("OUTPUT or TOP in an UPDATE with FROM", line_);
     }
     Scope scope;
@@ -89,13 +89,13 @@ Translation Emitter::updatePlain(const Update& statement, const TableDef& table)
         const std::string name = quoteName(table.name);
         SelectCore limited;
         where = " WHERE " + name + ".rowid IN (SELECT " + name + ".rowid FROM " + name + where +
-                " LIMIT " + as(valueOf(*statement.top->count, scope), bigIntType) + ")";
+                " LIMIT " + as(valueOf(*statement.top, scope), bigIntType) + ")";
     }
     text += where;
     std::vector<ResultColumn> output = changed.variables;
     text += returningVariables(changed.variables);
-    if (statement.output) {
-        text += returning(*statement.output, table, "inserted", output);
+    if (!statement.output.empty()) {
+        text += returning(statement.output, table, "inserted", output);
     }
     Translation result = finish(std::move(text), "UPDATE", std::move(output));
     result.manyRows = true;
@@ -157,14 +157,14 @@ Translation Emitter::remove(const Delete& statement) {
         where = " WHERE " + conditionOf(*statement.where, scope);
     }
     if (statement.top) {
-        where += " LIMIT " + as(valueOf(*statement.top->count, scope), bigIntType);
+        where += " LIMIT " + as(valueOf(*statement.top, scope), bigIntType);
     }
     std::string text = with;
     text += plain ? "DELETE FROM " + quoteName(target.table->name) + where
                   : removeText(*target.table, target.alias, from + where);
     std::vector<ResultColumn> output;
-    if (statement.output) {
-        text += returning(*statement.output, *target.table, "deleted", output);
+    if (!statement.output.empty()) {
+        text += returning(statement.output, *target.table, "deleted", output);
     }
     Translation result = finish(std::move(text), "DELETE", std::move(output));
     result.manyRows = true;

@@ -13,11 +13,8 @@ struct StatementText : QueryText
 {
     using QueryText::operator();
 
-    std::string output(const std::optional<OutputClause>& clause) const {
-        return !clause ? ""
-                       : " OUTPUT " + items(clause->items) +
-                             (clause->into ? " INTO " + object(*clause->into) : "") +
-                             optionalNames(clause->columns);
+    std::string output(const std::vector<SelectItem>& list) const {
+        return list.empty() ? "" : " OUTPUT " + items(list);
     }
     std::string set(const std::vector<Assignment>& list) const {
         return joined(list, [this](const Assignment& entry) {
@@ -33,9 +30,8 @@ struct StatementText : QueryText
         return with(node.with) + query(*node.query) + option(node.hints);
     }
     std::string operator()(const Insert& node) const {
-        std::string result = with(node.with) + "INSERT" + top(node.top) + " INTO " +
-                             object(node.table) + optionalNames(node.columns) +
-                             output(node.output) + " ";
+        std::string result = with(node.with) + "INSERT INTO " + object(node.table) +
+                             optionalNames(node.columns) + output(node.output) + " ";
         if (node.query) {
             result += query(*node.query);
         } else if (node.execute) {
@@ -80,7 +76,7 @@ struct StatementText : QueryText
         for (const MergeWhen& entry : node.when) {
             result += when(entry);
         }
-        return result + output(node.output) + option(node.hints);
+        return result + option(node.hints);
     }
     std::string operator()(const TruncateTable& node) const {
         return "TRUNCATE TABLE " + object(node.table);
@@ -128,27 +124,16 @@ struct StatementText : QueryText
             return result + "PRIMARY KEY" + key;
         case Constraint::Kind::Unique:
             return result + "UNIQUE" + key;
-        case Constraint::Kind::Check:
-            return result + "CHECK (" + of(node.expr.expr) + ")";
-        case Constraint::Kind::Default:
+        default:
             return result + "DEFAULT " + of(node.expr.expr) +
                    (node.forColumn.empty() ? "" : " FOR " + name(node.forColumn));
-        default:
-            result += node.columns.empty() ? "" : "FOREIGN KEY" + columns(node.columns) + " ";
-            return result + "REFERENCES " + object(node.references) +
-                   optionalNames(node.referencedColumns) +
-                   (node.onDelete.empty() ? "" : " ON DELETE " + node.onDelete) +
-                   (node.onUpdate.empty() ? "" : " ON UPDATE " + node.onUpdate);
         }
     }
     static std::string nullable(const std::optional<bool>& nullable) {
         return !nullable ? "" : *nullable ? " NULL" : " NOT NULL";
     }
     std::string column(const ColumnDefinition& node) const {
-        std::string result = name(node.name) + " ";
-        result += node.computed.expr
-                      ? "AS " + of(node.computed.expr) + (node.persisted ? " PERSISTED" : "")
-                      : type(node.type);
+        std::string result = name(node.name) + " " + type(node.type);
         result += node.collation.empty() ? "" : " COLLATE " + name(node.collation);
         if (node.identity) {
             result += " IDENTITY(" + std::to_string(node.identity->seed) + ", " +
@@ -200,8 +185,7 @@ struct StatementText : QueryText
         return std::string("CREATE") + (node.unique ? " UNIQUE" : "") + clustering(node.clustered) +
                " INDEX " + name(node.name) + " ON " + object(node.table) + columns(node.columns) +
                (node.included.empty() ? "" : " INCLUDE (" + names(node.included) + ")") +
-               optional(" WHERE ", node.where.expr) + options(node.options) +
-               on("ON", node.filegroup);
+               options(node.options) + on("ON", node.filegroup);
     }
     std::string operator()(const DropIndex& node) const {
         return std::string("DROP INDEX ") + (node.ifExists ? "IF EXISTS " : "") +
@@ -210,8 +194,7 @@ struct StatementText : QueryText
                });
     }
     std::string operator()(const DropObject& node) const {
-        static constexpr std::string_view kinds[] = {"TABLE",   "VIEW",     "PROCEDURE", "FUNCTION",
-                                                     "TRIGGER", "SEQUENCE", "DATABASE"};
+        static constexpr std::string_view kinds[] = {"TABLE", "VIEW", "PROCEDURE"};
         return "DROP " + std::string(kinds[int(node.kind)]) +
                (node.ifExists ? " IF EXISTS " : " ") +
                joined(node.names, [](const ObjectName& entry) { return object(entry); });
@@ -234,21 +217,6 @@ struct StatementText : QueryText
     std::string operator()(const CreateView& node) const {
         return mode(node.mode) + " VIEW " + object(node.name) + optionalNames(node.columns) +
                " AS " + (*this)(node.select);
-    }
-    static std::string number(std::string_view before, const std::optional<std::int64_t>& number) {
-        return number ? std::string(before) + std::to_string(*number) : "";
-    }
-    std::string operator()(const CreateSequence& node) const {
-        return "CREATE SEQUENCE " + object(node.name) +
-               (node.type ? " AS " + type(*node.type) : "") + number(" START WITH ", node.start) +
-               number(" INCREMENT BY ", node.increment) + number(" MINVALUE ", node.minimum) +
-               number(" MAXVALUE ", node.maximum) + (node.cycle ? " CYCLE" : "");
-    }
-    std::string operator()(const CreateDatabase& node) const {
-        return "CREATE DATABASE " + name(node.name);
-    }
-    std::string operator()(const CreateSchema& node) const {
-        return "CREATE SCHEMA " + name(node.name);
     }
 
     // ---- control flow ----

@@ -12,8 +12,8 @@ inline constexpr std::string_view binaryOps[] = {"+", "-", "*", "/", "%", "&", "
 inline constexpr std::string_view compareOps[] = {"=", "<>", "<", "<=", ">", ">="};
 inline constexpr std::string_view unaryOps[] = {"+", "-", "~"};
 inline constexpr std::string_view setOps[] = {"UNION", "UNION ALL", "EXCEPT", "INTERSECT"};
-inline constexpr std::string_view joins[] = {"INNER JOIN", "LEFT JOIN",   "RIGHT JOIN", "FULL JOIN",
-                                             "CROSS JOIN", "CROSS APPLY", "OUTER APPLY"};
+inline constexpr std::string_view joins[] = {"INNER JOIN", "LEFT JOIN", "RIGHT JOIN", "FULL JOIN",
+                                             "CROSS JOIN"};
 inline constexpr std::string_view assignOps[] = {
     "=", "+=", "-=", "*=", "/=", "%=", "&=", "|=", "^="};
 
@@ -198,9 +198,6 @@ struct QueryText
                               list(node.arguments) + ")") +
                (node.over ? " OVER (" + window(*node.over) + ")" : "");
     }
-    std::string operator()(const NextValueFor& node) const {
-        return "NEXT VALUE FOR " + object(node.sequence);
-    }
 
     static std::string no(bool negated) { return negated ? " NOT" : ""; }
     std::string order(const std::vector<OrderItem>& items) const {
@@ -257,10 +254,6 @@ struct QueryText
     std::string operator()(const ValuesTable& node) const {
         return "(" + rows(node.rows) + ")" + alias(node.alias) + optionalNames(node.columns);
     }
-    std::string operator()(const FunctionTable& node) const {
-        return object(node.name) + "(" + list(node.arguments) + ")" + alias(node.alias) +
-               optionalNames(node.columns);
-    }
     std::string operator()(const Join& node) const {
         return source(node.left) + " " + std::string(joins[int(node.kind)]) + " " +
                bracketedJoin(node.right) + optional(" ON ", node.on);
@@ -278,11 +271,7 @@ struct QueryText
                                      return source(entry);
                                  });
     }
-    std::string top(const std::optional<Top>& top) const {
-        return !top ? ""
-                    : " TOP (" + of(top->count) + ")" + (top->percent ? " PERCENT" : "") +
-                          (top->withTies ? " WITH TIES" : "");
-    }
+    std::string top(const ExprPtr& count) const { return !count ? "" : " TOP (" + of(count) + ")"; }
     std::string operator()(const SelectCore& node) const {
         return "SELECT" + std::string(node.distinct ? " DISTINCT" : "") + top(node.top) + " " +
                items(node.items) + (node.into ? " INTO " + object(*node.into) : "") +
