@@ -67,11 +67,11 @@ public:
 
     /// Null when this shape, with these structural literals, was not seen before.
     Compiled* find(const Shape& shape) {
-        const auto known = structural_.find(shape.key);
-        if (known == structural_.end()) {
+        const auto known = makes_.find(shape.key);
+        if (known == makes_.end()) {
             return nullptr;
         }
-        const auto found = entries_.find(fullKey(shape, known->second));
+        const auto found = entries_.find(fullKey(shape, known->second.structural));
         if (found == entries_.end()) {
             return nullptr;
         }
@@ -81,18 +81,17 @@ public:
 
     /// structural are the indices of the literals whose values the compiled form depends on.
     Compiled& insert(const Shape& shape, std::vector<std::uint32_t> structural, Compiled compiled) {
-        const auto& indices =
-            structural_.insert_or_assign(shape.key, std::move(structural)).first->second;
-        std::string key(fullKey(shape, indices));
+        std::string key(fullKey(shape, structural));
         if (const auto old = entries_.find(key); old != entries_.end()) {
-            order_.erase(old->second);
-            entries_.erase(old);
+            drop(old->second);
         }
-        order_.push_front({std::move(key), std::move(compiled)});
+        auto& make = *makes_.try_emplace(shape.key).first;
+        make.second.structural = std::move(structural);
+        ++make.second.entries;
+        order_.push_front({std::move(key), &make, std::move(compiled)});
         entries_.emplace(order_.front().key, order_.begin());
         while (order_.size() > capacity_) {
-            entries_.erase(order_.back().key);
-            order_.pop_back();
+            drop(std::prev(order_.end()));
         }
         return order_.front().compiled;
     }
@@ -100,17 +99,34 @@ public:
     void clear() {
         entries_.clear();
         order_.clear();
-        structural_.clear();
+        makes_.clear();
     }
     std::size_t size() const { return order_.size(); }
+    /// Keys that are remembered; never more than there are entries.
+    std::size_t makes() const { return makes_.size(); }
 
 private:
+    /// What all entries of one key have in common; goes with the last of them.
+    struct Make
+    {
+        std::vector<std::uint32_t> structural;
+        std::size_t entries = 0;
+    };
+    using Makes = std::unordered_map<std::string, Make>;
     struct Entry
     {
         std::string key;
+        typename Makes::value_type* make;
         Compiled compiled;
     };
 
+    void drop(typename std::list<Entry>::iterator entry) {
+        if (--entry->make->second.entries == 0) {
+            makes_.erase(makes_.find(entry->make->first));
+        }
+        entries_.erase(entry->key);
+        order_.erase(entry);
+    }
     std::string_view fullKey(const Shape& shape, const std::vector<std::uint32_t>& structural) {
         if (structural.empty()) {
             return shape.key;
@@ -127,7 +143,7 @@ private:
     std::string scratch_;
     std::list<Entry> order_; // the last used first
     std::unordered_map<std::string_view, typename std::list<Entry>::iterator> entries_;
-    std::unordered_map<std::string, std::vector<std::uint32_t>> structural_;
+    Makes makes_;
 };
 
 } // namespace velcro::sql::tsql

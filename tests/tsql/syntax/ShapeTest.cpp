@@ -117,6 +117,7 @@ TEST(ShapeTest, ForgetsTheLongestUnused) {
     compiler.run("SELECT a");
     compiler.run("SELECT d"); // b goes
     EXPECT_EQ(compiler.cache.size(), 3u);
+    EXPECT_EQ(compiler.cache.makes(), 3u) << "what is forgotten takes no memory";
     compiler.run("SELECT a");
     compiler.run("SELECT c");
     EXPECT_EQ(compiler.parsed, 4);
