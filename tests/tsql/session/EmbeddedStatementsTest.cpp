@@ -90,6 +90,12 @@ TEST_F(EmbeddedStatementsTest, queriesOfEveryForm) {
         {"SELECT CO, COUNT(*), SUM(Qty), AVG(Qty), MAX(CRONo) FROM Orders GROUP BY CO"
          " HAVING COUNT(*) > 1",
          "01|2|5|2|b2"},
+        {"SELECT AVG(Qty) * 2, AVG(-Qty) * 2, AVG(Qty * 1.0) * 2 FROM Orders WHERE CO = '01'",
+         "4|-4|5"},
+        {"SELECT CRONo, COALESCE(C.Text, 'none'), (SELECT SUM(Qty) FROM Orders WITH (NOLOCK)"
+         " WHERE CO = O.CO) AS [Onhand] FROM Orders O LEFT OUTER JOIN Codes C ON C.CO = O.CO"
+         " AND C.Code = O.CRONo WHERE O.CO = '01'ORDER BY CRONo",
+         "A1|first|5;b2|none|5"},
         {"SELECT CRONo, 2 AS [P] FROM Orders WHERE CO = '02' UNION ALL SELECT 'q', 1 ORDER BY [P]",
          "q|1;C[3]%|2"},
         {"SELECT RecID FROM Orders ORDER BY RecID OFFSET 1 ROWS FETCH NEXT 1 ROWS ONLY", "2"},
@@ -125,6 +131,12 @@ TEST_F(EmbeddedStatementsTest, rowsAreChanged) {
          "(2)"},
         {"SELECT Code, Text FROM Codes ORDER BY Code", "A1|first;new|made;X|changed"},
         {"INSERT INTO Codes (CO, Code) SELECT CO, CRONo FROM Orders WHERE CRONo = 'B2'", "(1)"},
+        // Five letters fit, however many bytes they take; a letter beyond the first plane is two.
+        {"INSERT INTO Codes (CO, Code) VALUES ('3', 'Größe'), ('3', 'ДОМИК'), ('3', 'abc😀')",
+         "(3)"},
+        {"INSERT INTO Codes (CO, Code) VALUES ('3', 'Größen')", "error 2628"},
+        {"UPDATE Codes SET Code = 'abcd😀' WHERE Code = 'abc😀'", "error 2628"},
+        {"DELETE Codes WHERE CO = '3' AND Code IN ('GRÖSSE', 'GRÖßE', 'домик', 'abc😀')", "(3)"},
         {"DELETE O FROM Orders O JOIN Codes C ON C.Code = O.CRONo", "(2)"},
         {"SELECT CRONo FROM Orders", "C[3]%"},
         {"INSERT INTO Orders (CO) VALUES ('09') SELECT SCOPE_IDENTITY(), @@ROWCOUNT", "(1) 4|1"},
