@@ -1,5 +1,6 @@
 #include "platform/sqlserver/EmbeddedConnection.h"
 
+#include "platform/sqlserver/NumberSeries.h"
 #include "tsql/session/Session.h"
 
 namespace velcro::sql {
@@ -24,7 +25,9 @@ class EmbeddedConnection : public SqlConnection
 public:
     void connect(const ConnectionSettings& settings) override {
         disconnect();
-        session_ = std::make_unique<tsql::Session>(databaseOf(settings));
+        tsql::NativeProcedures natives;
+        natives.push_back(std::make_unique<NumberSeries>());
+        session_ = std::make_unique<tsql::Session>(databaseOf(settings), std::move(natives));
     }
     void disconnect() noexcept override { session_.reset(); }
     bool isConnected() const override { return session_ != nullptr; }

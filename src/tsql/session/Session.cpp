@@ -41,15 +41,14 @@ char kindLetter(const Parameter& parameter) {
 
 } // namespace
 
-Session::Session(const DatabaseSettings& settings)
+Session::Session(const DatabaseSettings& settings, NativeProcedures natives)
     : file_(openDatabaseFile(settings))
     , catalogue_(file_.handle.get(), settings.name, file_.readOnly)
     , host_(catalogue_, facts())
     , ddl_(catalogue_, host_)
     , temporary_(file_.handle.get())
-    , transactions_(catalogue_, temporary_, settings.autoCommit)
-    , numbers_(file_.path, catalogue_,
-               [this](const SeriesKey& key) { return lastKnownNumber(key); })
+    , natives_(std::move(natives))
+    , transactions_(catalogue_, temporary_, settings.autoCommit, watchTransactions())
     , sessionValue_([this](std::string_view name) { return sessionValue(name); }) {
     registerFunctions(file_.handle.get(), host_);
 }

@@ -8,7 +8,7 @@
 #include "tsql/functions/Functions.h"
 #include "tsql/session/Binder.h"
 #include "tsql/session/Frame.h"
-#include "tsql/session/NumberSeries.h"
+#include "tsql/session/NativeProcedure.h"
 #include "tsql/session/TemporaryTables.h"
 #include "tsql/session/Transactions.h"
 #include "tsql/syntax/AstStatement.h"
@@ -47,7 +47,7 @@ public:
     static constexpr std::size_t shapesKept = 400;
 
     /// Throws SqlError of kind NotConnected.
-    explicit Session(const DatabaseSettings& settings);
+    explicit Session(const DatabaseSettings& settings, NativeProcedures natives = {});
 
     /// Everything throws SqlError.
     void run(std::string_view batch, std::span<const Parameter> parameters,
@@ -75,6 +75,7 @@ private:
         std::vector<LiftedLiteral> literals;
     };
     class PlaceNames;
+    class Caller;
 
     // Session.cpp
     void runPieces(std::string_view batch, std::span<const Parameter> parameters,
@@ -143,6 +144,12 @@ private:
         bool isDefault = false;
         std::string outputTo; // "@x" of the caller
     };
+    struct Formal
+    {
+        std::string name;
+        Type type;
+        const Expr* defaultValue = nullptr;
+    };
     struct Procedure
     {
         std::string name;
@@ -154,17 +161,21 @@ private:
     Flow execute(const ExecuteText& text, Place& place);
     std::vector<Given> given(const Execute& call, Place& place);
     std::shared_ptr<Procedure> procedure(const ObjectName& name);
-    void declareParameters(const Procedure& procedure, const std::vector<Given>& given,
-                           Frame& frame, Place& place);
+    std::vector<Formal> formalParameters(const CreateProcedure& definition) const;
+    void declareParameters(const std::string& procedure, const std::vector<Formal>& formals,
+                           const std::vector<Given>& given, Frame& frame, Place& place);
     void passArgument(const std::string& name, const Given& given, Frame& frame);
     Value evaluateKept(const Expr& expr, Place& place, Type& type);
     void callProcedure(const std::shared_ptr<Procedure>& procedure, const std::vector<Given>& given,
                        const std::string& result, Place& place);
-    bool callSystemProcedure(const ObjectName& name, const std::vector<Given>& given, Place& place);
-    void runText(const std::string& text, Frame& frame, Place& place);
+    void runText(const std::string& text, Frame& frame, const OnResult& onResult);
     void executeSql(const std::vector<Given>& given, Place& place);
-    void generateNumber(const std::vector<Given>& given, Place& place);
-    std::int64_t lastKnownNumber(const SeriesKey& key);
+
+    // SessionNative.cpp
+    NativeProcedure* nativeProcedure(const ObjectName& name) const;
+    void callNative(NativeProcedure& native, const std::vector<Given>& given,
+                    const std::string& result, Place& place);
+    TransactionWatch watchTransactions();
 
     // SessionDefinitions.cpp
     template <class Work>
@@ -193,8 +204,8 @@ private:
     FunctionHost host_;
     Ddl ddl_;
     TemporaryTables temporary_;
+    NativeProcedures natives_;
     Transactions transactions_;
-    NumberSeries numbers_;
     ShapeCache<std::shared_ptr<Program>> cache_{shapesKept};
     PatternCache<std::shared_ptr<Program>> patterns_{shapesKept};
     std::map<std::string, std::shared_ptr<Procedure>> procedures_;

@@ -1,19 +1,16 @@
-// EXEC: stored procedures, text that is run, and the procedures the stand-in brings along.
+// EXEC: stored procedures and text that is run.
 #include "tsql/session/PlaceNames.h"
 #include "tsql/session/SessionVisit.h"
-#include "tsql/translate/SqliteText.h"
 #include "tsql/values/Collation.h"
 #include "tsql/values/Errors.h"
 
 #include <algorithm>
-#include <array>
 
 namespace velcro::sql::tsql {
 
 namespace {
 
 constexpr int deepestCall = 32;
-constexpr std::string_view numberProcedure = "VELMARA_GENERATE_NUMBER";
 
 /// Counts calls inside calls, back down on every path.
 struct CallDepth
@@ -77,36 +74,44 @@ std::shared_ptr<Session::Procedure> Session::procedure(const ObjectName& name) {
     return known;
 }
 
-void Session::declareParameters(const Procedure& procedure, const std::vector<Given>& given,
-                                Frame& frame, Place& place) {
-    const auto& parameters = procedure.definition->parameters;
+std::vector<Session::Formal> Session::formalParameters(const CreateProcedure& definition) const {
+    std::vector<Formal> formals;
+    for (const auto& parameter : definition.parameters) {
+        formals.push_back(
+            {parameter.name, declaredType(parameter.type, line_), parameter.defaultValue.get()});
+    }
+    return formals;
+}
+
+void Session::declareParameters(const std::string& procedure, const std::vector<Formal>& formals,
+                                const std::vector<Given>& given, Frame& frame, Place& place) {
     const bool named = !given.empty() && !given.back().name.empty();
-    if (given.size() > parameters.size() && !named) {
-        raise(8144, {procedure.name}, line_);
+    if (given.size() > formals.size() && !named) {
+        raise(8144, {procedure}, line_);
     }
     for (const auto& value : given) {
         const bool known = value.name.empty() ||
-                           std::any_of(parameters.begin(), parameters.end(),
+                           std::any_of(formals.begin(), formals.end(),
                                        [&](const auto& p) { return sameName(p.name, value.name); });
         if (!known) {
-            raise(8145, {value.name, procedure.name}, line_);
+            raise(8145, {value.name, procedure}, line_);
         }
     }
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
-        const auto& parameter = parameters[i];
-        frame.declare(parameter.name, declaredType(parameter.type, line_), line_);
+    for (std::size_t i = 0; i < formals.size(); ++i) {
+        const Formal& formal = formals[i];
+        frame.declare(formal.name, formal.type, line_);
         const auto found = std::find_if(given.begin(), given.end(), [&](const Given& value) {
             const auto position = static_cast<std::size_t>(&value - given.data());
-            return value.name.empty() ? position == i : sameName(value.name, parameter.name);
+            return value.name.empty() ? position == i : sameName(value.name, formal.name);
         });
         if (found != given.end() && !found->isDefault) {
-            passArgument(parameter.name, *found, frame);
-        } else if (parameter.defaultValue) {
+            passArgument(formal.name, *found, frame);
+        } else if (formal.defaultValue != nullptr) {
             Type type;
-            Value value = evaluateKept(*parameter.defaultValue, place, type);
-            frame.assign(parameter.name, std::move(value), type, line_);
+            Value value = evaluateKept(*formal.defaultValue, place, type);
+            frame.assign(formal.name, std::move(value), type, line_);
         } else {
-            raise(201, {procedure.name, parameter.name}, line_);
+            raise(201, {procedure, formal.name}, line_);
         }
     }
 }
@@ -148,7 +153,8 @@ void Session::callProcedure(const std::shared_ptr<Procedure>& procedure,
     const CallDepth depth(callDepth_);
     Frame frame;
     frame.procedure = procedure->name;
-    declareParameters(*procedure, given, frame, place);
+    declareParameters(procedure->name, formalParameters(*procedure->definition), given, frame,
+                      place);
     Place inner{procedure->program, procedure->text, frame, {}, {}, place.onResult};
     const bool noCount = noCount_;
     runAll(procedure->definition->statements, inner);
@@ -169,28 +175,18 @@ void Session::callProcedure(const std::shared_ptr<Procedure>& procedure,
 
 Session::Flow Session::execute(const Execute& call, Place& place) {
     const std::vector<Given> values = given(call, place);
-    if (!callSystemProcedure(call.procedure, values, place)) {
+    if (sameName(call.procedure.name, "sp_executesql")) {
+        executeSql(values, place);
+    } else if (NativeProcedure* native = nativeProcedure(call.procedure)) {
+        callNative(*native, values, call.result, place);
+    } else {
         callProcedure(procedure(call.procedure), values, call.result, place);
     }
     return Flow::Normal;
 }
 
-bool Session::callSystemProcedure(const ObjectName& name, const std::vector<Given>& given,
-                                  Place& place) {
-    if (sameName(name.name, "sp_executesql")) {
-        executeSql(given, place);
-        return true;
-    }
-    // A database may bring its own procedure of that name.
-    if (sameName(name.name, numberProcedure) && catalogue_.procedure(name.name) == nullptr) {
-        generateNumber(given, place);
-        return true;
-    }
-    return false;
-}
-
 /// The text runs like a batch of its own, in a frame that sees none of the caller's variables.
-void Session::runText(const std::string& text, Frame& frame, Place& place) {
+void Session::runText(const std::string& text, Frame& frame, const OnResult& onResult) {
     if (callDepth_ >= deepestCall) {
         raise(217, {}, line_);
     }
@@ -198,7 +194,7 @@ void Session::runText(const std::string& text, Frame& frame, Place& place) {
     Program program;
     program.literals = Literals::Kept;
     program.batch = parse(text);
-    Place inner{program, text, frame, {}, {}, place.onResult};
+    Place inner{program, text, frame, {}, {}, onResult};
     runAll(program.batch.statements, inner);
 }
 
@@ -206,7 +202,7 @@ Session::Flow Session::execute(const ExecuteText& dynamic, Place& place) {
     Type type;
     const Value value = evaluate(*dynamic.text, place, &type);
     Frame frame;
-    runText(textOf(value, type), frame, place);
+    runText(textOf(value, type), frame, place.onResult);
     return Flow::Normal;
 }
 
@@ -218,7 +214,7 @@ void Session::executeSql(const std::vector<Given>& given, Place& place) {
     const std::string text = textOf(given[0].value, given[0].type);
     Frame frame;
     if (given.size() < 2) {
-        runText(text, frame, place);
+        runText(text, frame, place.onResult);
         return;
     }
     // The declarations read like a procedure's head, so that one is made of them.
@@ -229,60 +225,6 @@ void Session::executeSql(const std::vector<Given>& given, Place& place) {
     head->program.batch = parse(head->text);
     head->definition = std::get_if<CreateProcedure>(&head->program.batch.statements.at(0)->node);
     callProcedure(head, {given.begin() + 2, given.end()}, {}, place);
-}
-
-/// One row with the column NUMBER: the next number of the series, which no rollback gives back.
-void Session::generateNumber(const std::vector<Given>& given, Place& place) {
-    constexpr std::array<std::string_view, 4> names{"@CO", "@BRANCH", "@MODCODE", "@TXTP"};
-    constexpr std::array<std::size_t, 4> lengths{10, 10, 3, 6};
-    std::array<std::optional<std::string>, 4> parts;
-    for (std::size_t i = 0; i < given.size(); ++i) {
-        const auto place = given[i].name.empty()
-                               ? names.begin() + std::min(i, names.size())
-                               : std::find_if(names.begin(), names.end(), [&](const auto& name) {
-                                     return sameName(name, given[i].name);
-                                 });
-        if (place == names.end()) {
-            raise(8144, {numberProcedure}, line_);
-        }
-        const auto index = static_cast<std::size_t>(place - names.begin());
-        parts[index] = textOf(given[i].value, given[i].type).substr(0, lengths[index]);
-    }
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (!parts[i]) {
-            raise(201, {numberProcedure, names[i]}, line_);
-        }
-    }
-    RowSetBuilder rows({{"NUMBER", ColumnType::Integer}});
-    rows.addInteger(numbers_.next({*parts[0], *parts[1], *parts[2], *parts[3]}));
-    rows.endRow();
-    rowCount_ = 1;
-    place.onResult({rows.take(), -1, {}});
-}
-
-/// SYSNumbers says where a series stood before its first number here.
-std::int64_t Session::lastKnownNumber(const SeriesKey& key) {
-    const TableDef* table = catalogue_.table("SYSNumbers");
-    if (table == nullptr) {
-        return 0;
-    }
-    for (const char* needed : {"CO", "Branch", "ModCode", "TxTp", "Number"}) {
-        if (table->column(needed) == nullptr) {
-            return 0;
-        }
-    }
-    const auto statement = compile("SELECT max(\"Number\") FROM " + quoteName(table->name) +
-                                   " WHERE \"CO\"=?1 AND \"Branch\"=?2"
-                                   " AND \"ModCode\"=?3 AND \"TxTp\"=?4");
-    int index = 0;
-    for (const auto* part : {&key.company, &key.branch, &key.module, &key.type}) {
-        sqlite3_bind_text(statement.get(), ++index, part->c_str(), -1, SQLITE_TRANSIENT);
-    }
-    const int code = sqlite3_step(statement.get());
-    if (code != SQLITE_ROW) {
-        throw faultFromSqlite(file_.handle.get(), code, catalogue_, "SELECT");
-    }
-    return sqlite3_column_int64(statement.get(), 0);
 }
 
 } // namespace velcro::sql::tsql

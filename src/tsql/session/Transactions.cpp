@@ -51,26 +51,27 @@ void Transactions::catchUp() {
     }
 }
 
-void Transactions::ended() {
+void Transactions::ended(bool written) {
     depth_ = 0;
     writing_ = false;
     savepoints_.clear();
     catalogue_.transactionEnded();
     temporary_.transactionEnded();
+    watch_.afterIt(written);
 }
 
 void Transactions::beforeWrite() {
     if (isLost()) {
         raise(3930);
     }
-    if ((depth_ > 0 || !autoCommit_) && !isOpen()) {
+    if (lasts() && !isOpen()) {
         run("BEGIN IMMEDIATE");
         writing_ = true;
     }
 }
 
 void Transactions::commit() {
-    if (depth_ == 0 && autoCommit_) {
+    if (!lasts()) {
         raise(3902);
     }
     if (isLost()) {
@@ -81,14 +82,16 @@ void Transactions::commit() {
         --depth_;
         return;
     }
-    if (isOpen()) {
+    const bool written = isOpen();
+    if (written) {
+        watch_.beforeCommit();
         run("COMMIT");
     }
-    ended();
+    ended(written);
 }
 
 void Transactions::rollback() {
-    if (depth_ == 0 && autoCommit_) {
+    if (!lasts()) {
         raise(3903);
     }
     undo("ROLLBACK");

@@ -5,19 +5,33 @@
 #include "tsql/catalogue/Catalogue.h"
 #include "tsql/session/TemporaryTables.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velcro::sql::tsql {
 
+/// Who is told of the end of each transaction.
+struct TransactionWatch
+{
+    std::function<void()> beforeCommit;        // one that has written; its last work
+    std::function<void(bool written)> afterIt; // written: committed with what beforeCommit did
+};
+
 class Transactions
 {
 public:
-    Transactions(Catalogue& catalogue, TemporaryTables& temporary, bool autoCommit)
+    Transactions(Catalogue& catalogue, TemporaryTables& temporary, bool autoCommit,
+                 TransactionWatch watch)
         : catalogue_(catalogue)
         , temporary_(temporary)
-        , autoCommit_(autoCommit) {}
+        , autoCommit_(autoCommit)
+        , watch_(std::move(watch)) {}
+
+    /// True when what is written now waits for commit().
+    bool lasts() const { return depth_ > 0 || !autoCommit_; }
 
     /// @@TRANCOUNT.
     int depth() const { return depth_; }
@@ -49,11 +63,12 @@ private:
     bool isOpen() const;
     void run(const std::string& sqlite);
     void undo(const std::string& sqlite) noexcept;
-    void ended();
+    void ended(bool written = false);
 
     Catalogue& catalogue_;
     TemporaryTables& temporary_;
     bool autoCommit_;
+    TransactionWatch watch_;
     bool behind_ = false;  // what is held in memory does not know of the last rollback
     bool writing_ = false; // SQLite's transaction was begun, for one that is to last
     int depth_ = 0;

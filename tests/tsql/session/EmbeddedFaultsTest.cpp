@@ -11,7 +11,6 @@
 #include <cstdlib>
 #include <optional>
 #include <random>
-#include <set>
 #include <thread>
 
 #include <sqlite3.h>
@@ -71,23 +70,10 @@ std::string halfOrders(const SharedFolder& database, int first = 0) {
                            " (SELECT 1 FROM Orders O WHERE O.CRONo = I.CRONo)");
 }
 
-/// More on request: VELCRO_KILLS=5000, VELCRO_DRAWS=10000.
+/// More on request: VELCRO_KILLS=5000.
 int wanted(const char* variable, int usual) {
     const char* value = std::getenv(variable);
     return value != nullptr ? std::atoi(value) : usual;
-}
-
-int drawNumbers(const std::string& folder, int report, int count) {
-    const auto connection = EmbeddedDatabase::open(folder);
-    for (int i = 0; i < count; ++i) {
-        const auto rows =
-            connection->query("EXEC VELMARA_GENERATE_NUMBER '01', 'A', 'CRO', 'CROMST'");
-        const std::int32_t number = static_cast<std::int32_t>(rows.integer(0, 0));
-        if (write(report, &number, sizeof number) != sizeof number) {
-            return 1;
-        }
-    }
-    return 0;
 }
 
 } // namespace
@@ -133,28 +119,6 @@ TEST(EmbeddedFaultsTest, aKilledProcessLeavesWholeBatchesAndWhatItConfirmed) {
     EXPECT_GT(lastConfirmed, 0) << "no child came to write anything";
     EXPECT_EQ(halfOrders(database), "0 0");
     EXPECT_GE(std::stoi(database.answer("SELECT COUNT(*) FROM Orders")), allConfirmed);
-}
-
-TEST(EmbeddedFaultsTest, processesDrawDifferentNumbersWithoutAGap) {
-    const SharedFolder database(tables);
-    const std::string folder = database.path();
-    constexpr int processes = 8;
-    const int each = wanted("VELCRO_DRAWS", 60);
-    std::vector<std::unique_ptr<ChildProcess>> children;
-    for (int i = 0; i < processes; ++i) {
-        children.push_back(std::make_unique<ChildProcess>(
-            [&](int report) { return drawNumbers(folder, report, each); }));
-    }
-    std::set<std::int32_t> drawn;
-    for (const auto& child : children) {
-        std::int32_t number = 0;
-        while (read(child->output(), &number, sizeof number) == sizeof number) {
-            EXPECT_TRUE(drawn.insert(number).second) << number << " was given twice";
-        }
-        EXPECT_EQ(child->wait(), 0);
-    }
-    EXPECT_EQ(drawn.size(), static_cast<std::size_t>(processes * each));
-    EXPECT_EQ(*drawn.rbegin(), processes * each);
 }
 
 TEST(EmbeddedFaultsTest, processesWriteToOneFolder) {

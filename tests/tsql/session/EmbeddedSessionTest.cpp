@@ -150,25 +150,6 @@ TEST(EmbeddedSessionTest, workWaitsForTheCommitWhereAutoCommitIsOff) {
     EXPECT_EQ(database.answer("SELECT COUNT(*) FROM T"), "3");
 }
 
-TEST(EmbeddedSessionTest, numbersSurviveARollbackAndBeginAfterTheKnownOne) {
-    EmbeddedDatabase database;
-    database.connection().execute(
-        "CREATE TABLE SYSNumbers (CO nvarchar(10) NULL, Branch nvarchar(10) NULL,"
-        " ModCode nvarchar(6) NULL, TxTp nvarchar(12) NULL, Number int NOT NULL)"
-        " INSERT INTO SYSNumbers VALUES ('01', 'A', 'CRO', 'CROMST', 600)");
-    const auto other = database.open();
-    const char* draw = "EXEC VELMARA_GENERATE_NUMBER '01', 'A', 'CRO', 'CROMST'";
-    EXPECT_EQ(database.answer(draw), "601");
-    database.connection().begin();
-    database.connection().execute("DELETE FROM SYSNumbers");
-    EXPECT_EQ(database.answer(draw), "602");
-    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, draw), "603");
-    database.connection().rollback();
-    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'a ', 'cro', 'CROMST'"), "604");
-    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'B', 'CRO', 'CROMST'"), "1");
-    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01'"), "error 201");
-}
-
 TEST(EmbeddedSessionTest, anErrorBearsWhatWasSentAndItsLine) {
     const EmbeddedDatabase database;
     const std::string batch = "SELECT 1 ;\nSELECT *\n  FROM nope ;";

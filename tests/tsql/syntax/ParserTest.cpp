@@ -133,8 +133,8 @@ TEST(ParserTest, ReadsStatementsOnRows) {
         {"INSERT t (SELECT 1)", "INSERT INTO t SELECT 1"},
         {"INSERT t WITH (TABLOCK) DEFAULT VALUES", "INSERT INTO t DEFAULT VALUES"},
         {"INSERT INTO t (a) EXEC p @x", "INSERT INTO t (a) EXEC p @x"},
-        {"INSERT INTO t (a) OUTPUT inserted.a INTO @o (b) SELECT a FROM u WHERE 1 = 1",
-         "INSERT INTO t (a) OUTPUT inserted.a INTO @o (b) SELECT a FROM u WHERE (1 = 1)"},
+        {"INSERT INTO t (a) OUTPUT inserted.a SELECT a FROM u WHERE 1 = 1",
+         "INSERT INTO t (a) OUTPUT inserted.a SELECT a FROM u WHERE (1 = 1)"},
         {"UPDATE vcVersions SET [Version] = '2',[LastPCName] = 'PC' WHERE [Suite] = 'S'",
          "UPDATE vcVersions SET Version = '2', LastPCName = 'PC' WHERE (Suite = 'S')"},
         {"WITH CTE AS (SELECT [RecID], ROW_NUMBER() OVER (ORDER BY CAST(ImageID AS INT)) AS "
@@ -154,9 +154,9 @@ TEST(ParserTest, ReadsStatementsOnRows) {
          "UserCode) ON (Target.CO = Source.CO) WHEN MATCHED THEN UPDATE SET GridSettings = :G WHEN "
          "NOT MATCHED THEN INSERT (CO, UserCode) VALUES (:CO, :UserCode)"},
         {"MERGE t USING u ON t.a = u.a WHEN MATCHED AND u.b = 1 THEN DELETE WHEN NOT MATCHED BY "
-         "SOURCE THEN DELETE OUTPUT $action;",
+         "SOURCE THEN DELETE;",
          "MERGE INTO t USING u ON (t.a = u.a) WHEN MATCHED AND (u.b = 1) THEN DELETE WHEN NOT "
-         "MATCHED BY SOURCE THEN DELETE OUTPUT [$action]"},
+         "MATCHED BY SOURCE THEN DELETE"},
         {"TRUNCATE TABLE dbo.t"},
     };
     expectAll(readings);
@@ -293,6 +293,8 @@ TEST(ParserTest, RefusesWithNumberAndPlace) {
         {"CREATE INDEX i ON t (a) WHERE a > 1", unsupportedNumber, 1, 25, "index with WHERE"},
         {"INSERT TOP (1) INTO t SELECT 1", unsupportedNumber, 1, 8, "INSERT TOP"},
         {"DELETE t OUTPUT deleted.a INTO u", unsupportedNumber, 1, 27, "OUTPUT INTO"},
+        {"MERGE t USING u ON t.a = u.a WHEN MATCHED THEN DELETE OUTPUT $action;", unsupportedNumber,
+         1, 55, "OUTPUT in a MERGE"},
         {"GRANT SELECT ON t TO u", 156, 1, 1, "keyword 'GRANT'"},
     };
     for (const Refusal& refusal : refusals) {

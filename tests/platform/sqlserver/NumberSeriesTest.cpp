@@ -1,0 +1,174 @@
+// Document numbers: never given twice, none left out, and one wait for the disk with the order.
+#include "support/ChildProcess.h"
+#include "support/DiskWaits.h"
+#include "support/EmbeddedDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <set>
+
+#include <unistd.h>
+
+using velcro::test::ChildProcess;
+using velcro::test::EmbeddedDatabase;
+using velcro::test::TempFolder;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* draw = "EXEC VELMARA_GENERATE_NUMBER '01', 'A', 'CRO', 'CROMST'";
+constexpr const char* orders = "CREATE TABLE Orders (CRONo int NOT NULL)";
+
+/// A number taken as the program takes it: on a connection whose work waits for its commit.
+std::string takenOrder(velcro::sql::SqlConnection& connection) {
+    const std::string number = EmbeddedDatabase::answerOf(connection, draw);
+    connection.begin();
+    connection.execute("INSERT INTO Orders VALUES ('" + number + "')");
+    connection.commit();
+    return number;
+}
+
+std::unique_ptr<velcro::sql::SqlConnection> suite(const std::string& folder) {
+    velcro::sql::ConnectionSettings settings;
+    settings.server = "embedded:" + folder;
+    settings.database = "Shop";
+    settings.autoCommit = false;
+    auto connection = velcro::sql::createConnection(settings.server);
+    connection->connect(settings);
+    return connection;
+}
+
+void copyFiles(const fs::path& from, std::string_view nameBegin, const fs::path& to) {
+    for (const auto& entry : fs::directory_iterator(from)) {
+        const std::string name = entry.path().filename().string();
+        if (name.starts_with(nameBegin)) {
+            fs::copy_file(entry.path(), to / name, fs::copy_options::overwrite_existing);
+        }
+    }
+}
+
+/// More on request: VELCRO_DRAWS=10000.
+int wantedDraws() {
+    const char* value = std::getenv("VELCRO_DRAWS");
+    return value != nullptr ? std::atoi(value) : 60;
+}
+
+} // namespace
+
+TEST(NumberSeriesTest, numbersSurviveARollbackAndBeginAfterTheKnownOne) {
+    EmbeddedDatabase database;
+    database.connection().execute(
+        "CREATE TABLE SYSNumbers (CO nvarchar(10) NULL, Branch nvarchar(10) NULL,"
+        " ModCode nvarchar(6) NULL, TxTp nvarchar(12) NULL, Number int NOT NULL)"
+        " INSERT INTO SYSNumbers VALUES ('01', 'A', 'CRO', 'CROMST', 600)");
+    const auto other = database.open();
+    EXPECT_EQ(database.answer(draw), "601");
+    database.connection().begin();
+    database.connection().execute("DELETE FROM SYSNumbers");
+    EXPECT_EQ(database.answer(draw), "602");
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, draw), "603");
+    database.connection().rollback();
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'a ', 'cro', 'CROMST'"), "604");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER @TXTP = 'CROMST', @CO = '01',"
+                              " @MODCODE = 'CRO', @BRANCH = 'A'"),
+              "605");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'B', 'CRO', 'CROMST'"), "1");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01'"), "error 201");
+    EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'B', 'C', 'D', 'E'"),
+              "error 8144");
+}
+
+TEST(NumberSeriesTest, anOrderWaitsForTheDiskOnceAndItsNumberWithIt) {
+    velcro::test::DiskWaits waits;
+    EmbeddedDatabase database;
+    database.connection().execute(orders);
+    const auto connection = suite(database.folder().path().string());
+    EXPECT_EQ(takenOrder(*connection), "1");
+    waits.taken("");
+    EXPECT_EQ(takenOrder(*connection), "2");
+    EXPECT_EQ(waits.taken("Shop.sqlite-wal"), 1);
+    EXPECT_EQ(waits.taken(""), 0) << "nothing else waited";
+
+    // What no row keeps waits by itself.
+    EmbeddedDatabase::answerOf(*connection, draw);
+    EXPECT_EQ(waits.taken(""), 0);
+    connection->rollback();
+    EXPECT_EQ(waits.taken("Shop.numbers-wal"), 1);
+    EmbeddedDatabase::answerOf(*connection, draw);
+    connection->commit();
+    EXPECT_EQ(waits.taken("Shop.numbers-wal"), 1);
+    EXPECT_EQ(database.answer(draw), "5");
+    EXPECT_EQ(waits.taken("Shop.numbers-wal"), 1) << "outside a transaction";
+    EmbeddedDatabase::answerOf(*connection, draw);
+    connection->disconnect();
+    EXPECT_GE(waits.taken("Shop.numbers-wal"), 1);
+}
+
+TEST(NumberSeriesTest, aNumberInACommittedOrderIsNotGivenAgainAfterThePowerWasCut) {
+    EmbeddedDatabase database;
+    database.connection().execute(orders);
+    const std::string folder = database.folder().path().string();
+    const auto connection = suite(folder);
+    const auto other = suite(folder);
+    EXPECT_EQ(takenOrder(*connection), "1");
+    // What was written without a wait may be gone: the counters as they are now, the rows as they
+    // are after the commits.
+    const TempFolder later;
+    copyFiles(folder, "Shop.numbers", later.path());
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*other, draw), "2");
+    EXPECT_EQ(takenOrder(*connection), "3");
+    other->begin();
+    other->execute("INSERT INTO Orders VALUES (2)");
+    other->commit(); // the lower number last
+    copyFiles(folder, "Shop.sqlite", later.path());
+    const auto after = suite(later.path().string());
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*after, "SELECT MAX(CRONo) FROM Orders"), "3");
+    EXPECT_EQ(takenOrder(*after), "4");
+
+    // Without its counters the database still knows what it holds.
+    const TempFolder rowsOnly;
+    copyFiles(folder, "Shop.sqlite", rowsOnly.path());
+    EXPECT_EQ(takenOrder(*suite(rowsOnly.path().string())), "4");
+}
+
+TEST(NumberSeriesTest, processesTakeDifferentNumbersWithoutAGapAlsoWhenSomeAreKilled) {
+    const TempFolder folder;
+    const std::string path = folder.path().string();
+    EmbeddedDatabase::open(path, true)->execute(orders);
+    constexpr int processes = 8;
+    const int each = wantedDraws();
+    std::vector<std::unique_ptr<ChildProcess>> children;
+    for (int i = 0; i < processes; ++i) {
+        children.push_back(std::make_unique<ChildProcess>([&, i](int report) {
+            // Half of them in transactions, of which some end without a row.
+            const auto connection = i % 2 == 0 ? EmbeddedDatabase::open(path) : suite(path);
+            for (int taken = 0; taken < each; ++taken) {
+                const auto number =
+                    static_cast<std::int32_t>(connection->query(draw).integer(0, 0));
+                if (write(report, &number, sizeof number) != sizeof number) {
+                    return 1;
+                }
+                if (i % 2 == 1 && taken % 3 != 0) {
+                    connection->execute("INSERT INTO Orders VALUES (1)");
+                    taken % 3 == 1 ? connection->commit() : connection->rollback();
+                }
+            }
+            // These end without a word, with a number in hand.
+            return i < 4 ? raise(SIGKILL) : 0;
+        }));
+    }
+    std::set<std::int32_t> drawn;
+    for (const auto& child : children) {
+        std::int32_t number = 0;
+        while (read(child->output(), &number, sizeof number) == sizeof number) {
+            EXPECT_TRUE(drawn.insert(number).second) << number << " was given twice";
+        }
+        child->wait();
+    }
+    EXPECT_EQ(drawn.size(), static_cast<std::size_t>(processes * each));
+    EXPECT_EQ(*drawn.rbegin(), processes * each) << "one was left out";
+    EXPECT_EQ(takenOrder(*suite(path)), std::to_string(processes * each + 1));
+}
