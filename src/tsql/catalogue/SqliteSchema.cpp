@@ -27,7 +27,7 @@ std::string nullsIndexText(const TableDef& table, const IndexDef& index) {
         const auto& column = *table.columnById(key.columnId);
         const std::string name = quoteName(column.name);
         keys += (keys.empty() ? "" : ", ") + name + " IS NULL, ifnull(" + name + ", 0)";
-        keys += column.type.isText() ? " COLLATE " + std::string(collationName) : "";
+        keys += column.type.isCollated() ? " COLLATE " + std::string(collationName) : "";
         anyNull += (anyNull.empty() ? "" : " OR ") + name + " IS NULL";
     }
     return quoteName(table.name) + "(" + keys + ") WHERE " + anyNull;
@@ -40,8 +40,7 @@ std::string sqliteColumnText(const ColumnDef& column) {
     }
     const auto storage = storageClass(column.type);
     text += storage.empty() ? "" : " " + std::string(storage);
-    if (column.type.isText() || column.type.id == TypeId::UniqueIdentifier ||
-        column.type.id == TypeId::SqlVariant) {
+    if (column.type.isCollated() || column.type.id == TypeId::UniqueIdentifier) {
         text += " COLLATE " + std::string(collationName);
     }
     if (!column.nullable) {

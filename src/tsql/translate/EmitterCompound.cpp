@@ -101,7 +101,7 @@ Emitter::Core Emitter::wrapped(QueryText rows) {
     core.tail = " FROM (" + rows.text + ") AS \"part\"";
     for (const auto& column : rows.columns) {
         const std::string text = "\"part\"." + quoteName(column.name);
-        core.items.push_back({column.name, {text, column.type, column.type.isText(), {}}, {}});
+        core.items.push_back({column.name, {text, column.type, column.type.isCollated(), {}}, {}});
     }
     return core;
 }
@@ -192,7 +192,7 @@ std::string Emitter::compoundOrder(const std::vector<OrderItem>& order,
             raise(104, {}, line_);
         }
         text += (text.empty() ? " ORDER BY " : ", ") + std::to_string(ordinal);
-        if (columns[ordinal - 1].type.isText()) {
+        if (columns[ordinal - 1].type.isCollated()) {
             text += " COLLATE " + std::string(collationName);
         }
         text += item.descending ? " DESC" : "";

@@ -54,7 +54,7 @@ std::string Emitter::test(const Node&, const Scope&) {
 std::string Emitter::compare(CompareOp op, Fragment left, Fragment right) {
     requireComparable(op, left.type, right.type, line_);
     const Type type = commonType(left.type, right.type);
-    const bool needsCollation = type.isText() && !left.collated && !right.collated;
+    const bool needsCollation = type.isCollated() && !left.collated && !right.collated;
     Fragment shown{{}, type, !needsCollation, {}};
     // A column keeps its own form, so that an index on it serves; the other side follows.
     std::string text = collatedText(shown, as(std::move(left), type));

@@ -104,7 +104,7 @@ std::string Emitter::stored(Fragment fragment, const TableDef& table, const Colu
 
 /// Text that does not carry the collation by itself gets it where order or equality matters.
 std::string Emitter::collatedText(const Fragment& fragment, std::string text) {
-    if (!fragment.type.isText() || fragment.collated) {
+    if (!fragment.type.isCollated() || fragment.collated) {
         return text;
     }
     return text + " COLLATE " + std::string(collationName);

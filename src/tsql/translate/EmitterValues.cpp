@@ -102,7 +102,7 @@ Emitter::Fragment Emitter::emit(const NamedParameter& parameter, const Scope&) {
 Emitter::Fragment Emitter::columnFragment(const Source& source, const SourceColumn& column) {
     return {quoteName(source.alias) + "." + quoteName(column.name),
             column.type,
-            column.type.isText(),
+            column.type.isCollated(),
             {}};
 }
 
@@ -282,7 +282,7 @@ Emitter::Fragment Emitter::emit(const ScalarQuery& scalar, const Scope& scope) {
     }
     const Type& type = text.columns[0].type;
     if (givesOneRow(*scalar.query->body)) {
-        return {"(" + text.text + ")", type, type.isText(), {}};
+        return {"(" + text.text + ")", type, false, {}};
     }
     // SQLite would take the first of several rows in silence.
     return {"(WITH \"one\"(\"v\") AS (" + text.text +

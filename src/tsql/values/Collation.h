@@ -72,7 +72,7 @@ private:
     std::string plain_; // ASCII, lower case; the text of a simple shape
 };
 
-/// Makes the collation and LIKE known on a connection.
+/// Makes the collation known on a connection, and SQLite compare by it in every plan.
 void registerCollation(sqlite3* database);
 
 } // namespace velcro::sql::tsql

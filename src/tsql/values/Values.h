@@ -74,6 +74,8 @@ struct Type
     bool isFloat() const { return id == TypeId::Real || id == TypeId::Float; }
     bool isNumber() const { return id >= TypeId::Bit && id <= TypeId::Float; }
     bool isText() const { return (id >= TypeId::Char && id <= TypeId::NVarChar) || isLongText(); }
+    /// Compared by the collation: text, and what may hold text.
+    bool isCollated() const { return isText() || id == TypeId::SqlVariant; }
     bool isLongText() const { return id == TypeId::Text || id == TypeId::NText; }
     /// False for text, ntext and image, which take part in few operations (402, 306, 421, 8116).
     bool isComparable() const { return !isLongText() && id != TypeId::Image; }
