@@ -11,8 +11,7 @@ namespace velcro::sql::tsql {
 
 Translation Emitter::finish(std::string text, std::string verb, std::vector<ResultColumn> columns) {
     Translation result;
-    result.text = std::move(text);
-    result.binds = std::move(binds_);
+    result.text = withoutNumbers(text, binds_, result.binds);
     result.verb = std::move(verb);
     result.columns = std::move(columns);
     result.assigns = std::any_of(result.columns.begin(), result.columns.end(),

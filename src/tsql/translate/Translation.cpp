@@ -103,6 +103,29 @@ Type literalType(LiteralKind kind, std::string_view text) {
     }
 }
 
+std::string withoutNumbers(std::string_view text, const std::vector<Bind>& binds,
+                           std::vector<Bind>& ordered) {
+    std::string plain;
+    plain.reserve(text.size());
+    ordered.reserve(binds.size());
+    char quote = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        plain.push_back(c);
+        if (quote != 0) {
+            quote = c == quote ? '\0' : quote;
+        } else if (c == '\'' || c == '"') {
+            quote = c;
+        } else if (c == '?') {
+            std::size_t number = 0;
+            const auto* end = std::from_chars(&text[i] + 1, text.data() + text.size(), number).ptr;
+            ordered.push_back(binds.at(number - 1));
+            i = static_cast<std::size_t>(end - text.data()) - 1;
+        }
+    }
+    return plain;
+}
+
 Type declaredType(const DataType& type, int line, bool inCast) {
     const auto length = type.max          ? std::optional(maxLength)
                         : type.first >= 0 ? std::optional(type.first)

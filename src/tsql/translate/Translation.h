@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velcro::sql::tsql {
@@ -68,6 +69,12 @@ struct Translation
 Value literalValue(LiteralKind kind, std::string_view text, bool negated);
 /// Text counts as 4000 long, since another literal may stand in its place at the next run.
 Type literalType(LiteralKind kind, std::string_view text);
+
+/// A text of "?1", "?2" ... with each a plain "?", and their binds in the order they then stand in; one
+/// that stands twice is bound twice. SQLite searches the list of all numbers for each number it reads,
+/// and a statement of many values would take the square of their count.
+std::string withoutNumbers(std::string_view text, const std::vector<Bind>& binds,
+                           std::vector<Bind>& ordered);
 
 /// The type that a declaration names. 2715 for a name that is none.
 Type declaredType(const DataType& type, int line, bool inCast = false);
