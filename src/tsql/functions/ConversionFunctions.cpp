@@ -135,6 +135,18 @@ void raiseFault(const Call& call) {
     raise(static_cast<int>(call.integer(0)), {argument(1), argument(2), argument(3), argument(4)});
 }
 
+/// How many rows TOP, FETCH or OFFSET ask for: the count, the least that is allowed, and the number of
+/// the error for less.
+void rowCount(const Call& call) {
+    if (call.isNull(0)) {
+        raise(1014, {});
+    }
+    if (call.integer(0) < call.integer(1)) {
+        raise(static_cast<int>(call.integer(2)), {});
+    }
+    call.giveArgument(0);
+}
+
 constexpr ScalarFunction functions[] = {
     {"ts_cast", 4, runScalar<cast>},
     {"ts_try_cast", 4, runScalar<tryCast>},
@@ -145,6 +157,7 @@ constexpr ScalarFunction functions[] = {
     {"ts_add", 3, runScalar<arithmetic<Operation::Add>>},
     {"ts_subtract", 3, runScalar<arithmetic<Operation::Subtract>>},
     {"ts_multiply", 3, runScalar<arithmetic<Operation::Multiply>>},
+    {"ts_row_count", 3, runScalar<rowCount, true>},
     {"ts_raise", -1, runScalar<raiseFault, true>, false},
 };
 

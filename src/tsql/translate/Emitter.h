@@ -161,6 +161,8 @@ private:
     static bool givesOneRow(const QueryBody& body);
     std::string orderKey(const Expr& expr, const Core& core, const Scope& scope);
     std::string limitText(const SelectCore* select, const Query& query, const Scope& scope);
+    std::string topText(const Expr& top, const Scope& scope);
+    std::string rowCount(const Expr& count, int least, int error, const Scope& scope);
 
     // EmitterCompound.cpp
     QueryText compound(const Query& query, const Scope* outer, bool nested,

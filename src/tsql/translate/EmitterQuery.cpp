@@ -194,8 +194,8 @@ std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& s
             const Fragment& value = found->value;
             requireSortable(value.type);
             const auto ordinal = std::to_string(found - core.items.begin() + 1);
-            return value.collated || !value.type.isText() ? ordinal
-                                                          : collatedText(value, value.text);
+            return value.collated || !value.type.isCollated() ? ordinal
+                                                              : collatedText(value, value.text);
         }
     }
     Fragment key = valueOf(expr, scope);
@@ -206,17 +206,31 @@ std::string Emitter::orderKey(const Expr& expr, const Core& core, const Scope& s
 
 std::string Emitter::limitText(const SelectCore* select, const Query& query, const Scope& scope) {
     if (select != nullptr && select->top) {
-        return " LIMIT " + as(valueOf(*select->top, scope), bigIntType);
+        return topText(*select->top, scope);
     }
     if (!query.offset && !query.fetch) {
         return {};
     }
     std::string text = " LIMIT ";
-    text += query.fetch ? as(valueOf(*query.fetch, scope), bigIntType) : "-1";
+    text += query.fetch ? rowCount(*query.fetch, 1, 10744, scope) : "-1";
     if (query.offset) {
-        text += " OFFSET " + as(valueOf(*query.offset, scope), bigIntType);
+        text += " OFFSET " + rowCount(*query.offset, 0, 10742, scope);
     }
     return text;
+}
+
+std::string Emitter::topText(const Expr& top, const Scope& scope) {
+    return " LIMIT " + rowCount(top, 0, 127, scope);
+}
+
+/// A negative number is no limit at all to SQLite, and an error to the server.
+std::string Emitter::rowCount(const Expr& count, int least, int error, const Scope& scope) {
+    Fragment value = valueOf(count, scope);
+    if (value.type.isNull()) {
+        raise(1060, {}, line_);
+    }
+    return "ts_row_count(" + as(std::move(value), bigIntType) + "," + std::to_string(least) + "," +
+           std::to_string(error) + ")";
 }
 
 } // namespace velcro::sql::tsql

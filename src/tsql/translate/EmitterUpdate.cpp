@@ -87,9 +87,8 @@ Translation Emitter::updatePlain(const Update& statement, const TableDef& table)
     }
     if (statement.top) {
         const std::string name = quoteName(table.name);
-        SelectCore limited;
         where = " WHERE " + name + ".rowid IN (SELECT " + name + ".rowid FROM " + name + where +
-                " LIMIT " + as(valueOf(*statement.top, scope), bigIntType) + ")";
+                topText(*statement.top, scope) + ")";
     }
     text += where;
     std::vector<ResultColumn> output = changed.variables;
@@ -157,7 +156,7 @@ Translation Emitter::remove(const Delete& statement) {
         where = " WHERE " + conditionOf(*statement.where, scope);
     }
     if (statement.top) {
-        where += " LIMIT " + as(valueOf(*statement.top, scope), bigIntType);
+        where += topText(*statement.top, scope);
     }
     std::string text = with;
     text += plain ? "DELETE FROM " + quoteName(target.table->name) + where

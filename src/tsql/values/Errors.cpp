@@ -58,6 +58,7 @@ constexpr Row rows[] = {
      "The select list for the INSERT statement contains more items than the insert list. The "
      "number "
      "of SELECT values must match the number of INSERT columns."},
+    {127, 15, 1, "A TOP N or FETCH rowcount value may not be negative."},
     {128, 15, 1,
      "The name \"%1\" is not permitted in this context. Valid expressions are constants, constant "
      "expressions, and (in some contexts) variables. Column names are not permitted."},
@@ -199,6 +200,7 @@ constexpr Row rows[] = {
      "The objects \"%1\" and \"%2\" in the FROM clause have the same exposed names. Use "
      "correlation "
      "names to distinguish them."},
+    {1014, 15, 1, "A TOP or FETCH clause contains an invalid value."},
     {1023, 15, 1, "Invalid parameter %1 specified for %2."},
     {1033, 15, 1,
      "The ORDER BY clause is invalid in views, inline functions, derived tables, subqueries, and "
