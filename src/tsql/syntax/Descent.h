@@ -139,6 +139,7 @@ private:
     TableHints withHints();
     TableHints bareHints();
     void hintList(TableHints& hints);
+    void indexHint();
     static void hintsInto(TableHints& hints, TableHints more);
     void derivedAlias(std::string& alias, std::vector<std::string>& columns);
 

@@ -207,7 +207,7 @@ TableHints Descent::bareHints() {
     return hints;
 }
 
-// hints := '(' hint {[','] hint} ')'; hint := word ['(' ... ')' | '=' (name | number)]
+// hints := '(' hint {[','] hint} ')'; hint := word | INDEX (['='] '(' indexes ')' | '=' index)
 void Descent::hintList(TableHints& hints) {
     in_.expect(Op::Open);
     do {
@@ -216,24 +216,28 @@ void Descent::hintList(TableHints& hints) {
         }
         hints.names.push_back(upper(in_.take().token.text));
         if (hints.names.back() == "INDEX") {
-            const bool bracketed = in_.accept(Op::Open);
-            if (!bracketed) {
-                in_.expect(Op::Equal);
-            }
-            list([&] {
-                if (in_.is(TokenKind::Integer)) {
-                    structuralInteger();
-                } else {
-                    in_.expectName();
-                }
-            });
-            if (bracketed) {
-                in_.expect(Op::Close);
-            }
+            indexHint();
         }
         in_.accept(Op::Comma);
     } while (!in_.is(Op::Close));
     in_.expect(Op::Close);
+}
+
+// Without brackets it is one index: a comma behind it belongs to the next hint.
+void Descent::indexHint() {
+    const auto index = [this] {
+        if (in_.is(TokenKind::Integer)) {
+            structuralInteger();
+        } else {
+            in_.expectName();
+        }
+    };
+    const bool equal = in_.accept(Op::Equal);
+    if (equal && !in_.is(Op::Open)) {
+        index();
+    } else {
+        bracketedList(index);
+    }
 }
 
 // rows := row {',' row}

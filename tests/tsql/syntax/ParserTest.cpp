@@ -93,6 +93,9 @@ TEST(ParserTest, ReadsQueries) {
         {"SELECT DISTINCT TOP 5 a FROM t (NOLOCK), u x (UPDLOCK, INDEX(ix))",
          "SELECT DISTINCT TOP (5) a FROM t WITH (NOLOCK), u AS x WITH (UPDLOCK, "
          "INDEX = 0)"},
+        {"SELECT a FROM u x (UPDLOCK, INDEX(i1, [INDEX], i2) HOLDLOCK), v WITH (INDEX = (i), "
+         "TABLOCK)",
+         "SELECT a FROM u AS x WITH (UPDLOCK, INDEX = 0, HOLDLOCK), v WITH (INDEX = 0, TABLOCK)"},
         {"SELECT T0.*, T2.d FROM a T0 LEFT OUTER JOIN b T1 ON T1.c = T0.c INNER JOIN e AS T2 ON "
          "T2.c = T1.c",
          "SELECT T0.*, T2.d FROM a AS T0 LEFT JOIN b AS T1 ON (T1.c = T0.c) INNER JOIN e AS T2 ON "
