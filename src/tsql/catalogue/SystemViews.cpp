@@ -51,7 +51,7 @@ ORDINAL_POSITION:i c.column_id
 COLUMN_DEFAULT:t  d.definition
 IS_NULLABLE:t     CASE c.nullable WHEN 0 THEN 'NO' ELSE 'YES' END
 DATA_TYPE:t       c.type
-CHARACTER_MAXIMUM_LENGTH:i CASE c.type WHEN 'ntext' THEN 1073741823 WHEN 'text' THEN 2147483647 WHEN 'image' THEN 2147483647 ELSE nullif(c.length, 0) END
+CHARACTER_MAXIMUM_LENGTH:i CASE c.type WHEN 'ntext' THEN 1073741823 WHEN 'text' THEN 2147483647 WHEN 'image' THEN 2147483647 WHEN 'sql_variant' THEN 0 ELSE nullif(c.length, 0) END
 CHARACTER_OCTET_LENGTH:i CASE c.type WHEN 'ntext' THEN 2147483646 WHEN 'text' THEN 2147483647 WHEN 'image' THEN 2147483647 ELSE CASE WHEN c.length <> 0 THEN c.max_length END END
 NUMERIC_PRECISION:i CASE WHEN c.type LIKE '%int' OR c.type IN ('float', 'real', 'money', 'smallmoney', 'decimal', 'numeric') THEN c.precision END
 NUMERIC_PRECISION_RADIX:i CASE WHEN c.type IN ('float', 'real') THEN 2 WHEN c.type LIKE '%int' OR c.type IN ('money', 'smallmoney', 'decimal', 'numeric') THEN 10 END

@@ -16,6 +16,7 @@ protected:
                               {"Notes", {TypeId::NText}, {}, {}, {}},
                               {"Photo", {TypeId::Image}, {}, {}, {}},
                               {"Json", nvarcharType(maxLength), {}, {}, {}},
+                              {"Print", {TypeId::SqlVariant}, {}, {}, {}},
                               {"Balance", floatType, false, {}, DefaultSpec{{}, "((0))", "0"}},
                               {"Price", decimalType(10, 2), {}, {}, {}},
                               {"Born", dateTimeType, {}, {}, {}}},
@@ -45,6 +46,7 @@ TEST_F(SystemViewsTest, InformationSchema) {
               "Notes|ntext|1073741823|NULL|NULL|YES|NULL\n"
               "Photo|image|2147483647|NULL|NULL|YES|NULL\n"
               "Json|nvarchar|-1|NULL|NULL|YES|NULL\n"
+              "Print|sql_variant|0|NULL|NULL|YES|NULL\n"
               "Balance|float|NULL|53|NULL|NO|((0))\n"
               "Price|decimal|NULL|10|2|YES|NULL\n"
               "Born|datetime|NULL|NULL|NULL|YES|NULL");
