@@ -88,5 +88,6 @@ std::span<const ScalarFunction> searchFunctions();
 std::span<const ScalarFunction> numberFunctions();
 std::span<const ScalarFunction> dateFunctions();
 std::span<const ScalarFunction> systemFunctions();
+std::span<const ScalarFunction> partFunctions();
 
 } // namespace velcro::sql::tsql

@@ -138,6 +138,7 @@ void registerFunctions(sqlite3* database, FunctionHost& host) {
     registerAll(database, numberFunctions(), host);
     registerAll(database, dateFunctions(), host);
     registerAll(database, systemFunctions(), host);
+    registerAll(database, partFunctions(), host);
 }
 
 Fault faultFromSqlite(sqlite3* database, int code, const Catalogue& catalogue,

@@ -1,6 +1,7 @@
 // T-SQL's scalar functions: which there are, what they take and give, and their SQLite names.
 #pragma once
 
+#include "tsql/catalogue/SqliteHandle.h"
 #include "tsql/values/Errors.h"
 #include "tsql/values/Values.h"
 
@@ -9,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 struct sqlite3;
 
@@ -73,7 +75,10 @@ std::string_view datePartName(std::string_view word);
 //   ts_divide(a, b), ts_modulo(a, b)                            8134 for 0; integers stay integers
 //   ts_add(a, b, code), ts_subtract, ts_multiply                8115 when the type overflows
 //   ts_like(pattern, text[, escape])                            1 or 0
+//   ts_row_count(count, least, number)                          the count; the error for less
 //   ts_raise(number, argument...)                               the error itself
+//   ts_part('SELECT ...', value...)                             the one cell of that statement
+//   ts_values(value...)                                         several values as one of ts_part's
 
 /// What functions need to know of the session that calls them.
 struct SessionFacts
@@ -103,10 +108,16 @@ public:
     std::optional<Fault> takeFault();
     void setFault(Fault fault);
 
+    /// The statement of that text, prepared before; null when there is none or it is being run.
+    StatementHandle takePart(std::string_view text);
+    /// Gives it back for the next time.
+    void keepPart(std::string_view text, StatementHandle statement);
+
 private:
     const Catalogue& catalogue_;
     SessionFacts facts_;
     std::optional<Fault> fault_;
+    std::unordered_map<std::string, StatementHandle> parts_;
 };
 
 /// Makes the collation and all functions known on the host's connection. Call once; the host must

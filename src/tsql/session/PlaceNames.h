@@ -17,6 +17,7 @@ public:
     const Type* parameter(std::string_view name) const override;
     bool identityInsert(const TableDef& table) const override;
     std::string fullName(const TableDef& table) const override;
+    bool cutsExpressions() const override { return place_.program.cutsExpressions; }
 
 private:
     const Session& session_;

@@ -37,6 +37,7 @@ struct Program
 {
     Batch batch;
     Literals literals = Literals::Open;
+    bool cutsExpressions = false; // one of its statements was too deep for SQLite's parser
     std::int64_t version = -1;
     std::unordered_map<const void*, std::deque<Prepared>> prepared;
 };
@@ -91,6 +92,12 @@ private:
     // SessionRows.cpp
     using Translator = std::function<std::vector<Translation>(const PlaceNames&)>;
     std::deque<Prepared>& prepare(const void* node, Place& place, const Translator& translate);
+    class TooDeep;
+    std::deque<Prepared> compiled(Place& place, const Translator& translate);
+    /// The translation of what will stand inside another statement, after SQLite has taken it once.
+    using OneTranslator = std::function<Translation(const PlaceNames&)>;
+    Translation translated(Place& place, const OneTranslator& translate);
+    [[noreturn]] void refuseText(std::string_view said) const;
     StatementHandle compile(const std::string& text);
     void bind(Prepared& prepared, const Place& place, std::span<const Value> given = {});
     std::int64_t step(Prepared& prepared, Place& place, RowSetBuilder* rows);

@@ -219,8 +219,9 @@ Session::Flow Session::execute(const CreateView& create, Place& place) {
         if (create.mode != DefineMode::Create) {
             ddl_.dropView(create.name.name, create.mode == DefineMode::CreateOrAlter);
         }
-        const Translation rows =
-            Emitter(PlaceNames(*this, place), Literals::Inline).view(create.select, create.columns);
+        const Translation rows = translated(place, [&](const PlaceNames& names) {
+            return Emitter(names, Literals::Inline).view(create.select, create.columns);
+        });
         std::vector<ColumnSpec> columns;
         for (const auto& column : rows.columns) {
             columns.push_back({column.name, column.type, true, {}, {}});

@@ -26,14 +26,28 @@ struct ResetAfterUse
 
 } // namespace
 
+/// SQLite's parser has a stack of fixed size; later versions let it grow.
+class Session::TooDeep : public Fault
+{
+public:
+    using Fault::Fault;
+};
+
+void Session::refuseText(std::string_view said) const {
+    const std::string what = "this statement (" + std::string(said) + ")";
+    if (said == "parser stack overflow") {
+        throw TooDeep(serverMessage(unsupportedNumber, {what}, line_));
+    }
+    raiseUnsupported(what, line_);
+}
+
 StatementHandle Session::compile(const std::string& text) {
     sqlite3_stmt* raw = nullptr;
     const int code =
         sqlite3_prepare_v3(file_.handle.get(), text.data(), static_cast<int>(text.size()),
                            SQLITE_PREPARE_PERSISTENT, &raw, nullptr);
     if (code == SQLITE_ERROR) {
-        raiseUnsupported(std::string("this statement (") + sqlite3_errmsg(file_.handle.get()) + ")",
-                         line_);
+        refuseText(sqlite3_errmsg(file_.handle.get()));
     }
     if (code != SQLITE_OK) {
         throw faultFromSqlite(file_.handle.get(), code, catalogue_, "SELECT");
@@ -52,12 +66,32 @@ std::deque<Prepared>& Session::prepare(const void* node, Place& place,
     if (found != program.prepared.end()) {
         return found->second;
     }
-    std::deque<Prepared> made;
-    for (auto& translation : translate(PlaceNames(*this, place))) {
-        auto handle = compile(translation.text);
-        made.push_back({std::move(translation), std::move(handle)});
+    return program.prepared.emplace(node, compiled(place, translate)).first->second;
+}
+
+std::deque<Prepared> Session::compiled(Place& place, const Translator& translate) {
+    try {
+        std::deque<Prepared> made;
+        for (auto& translation : translate(PlaceNames(*this, place))) {
+            auto handle = compile(translation.text);
+            made.push_back({std::move(translation), std::move(handle)});
+        }
+        return made;
+    } catch (const TooDeep&) {
+        if (std::exchange(place.program.cutsExpressions, true)) {
+            throw;
+        }
     }
-    return program.prepared.emplace(node, std::move(made)).first->second;
+    return compiled(place, translate);
+}
+
+Translation Session::translated(Place& place, const OneTranslator& translate) {
+    auto made = compiled(place, [&](const PlaceNames& names) {
+        std::vector<Translation> one;
+        one.push_back(translate(names));
+        return one;
+    });
+    return std::move(made.front().translation);
 }
 
 void Session::bind(Prepared& prepared, const Place& place, std::span<const Value> given) {

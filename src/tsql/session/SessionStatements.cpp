@@ -145,7 +145,9 @@ std::int64_t Session::insertRows(const Insert& insert, const RowSet& rows, Place
 
 /// SELECT ... INTO makes the table from the types of the list, then fills it.
 void Session::selectInto(const Select& select, const ObjectName& into, Place& place) {
-    Translation rows = Emitter(PlaceNames(*this, place), place.program.literals).select(select);
+    Translation rows = translated(place, [&](const PlaceNames& names) {
+        return Emitter(names, place.program.literals).select(select);
+    });
     std::vector<ColumnSpec> columns;
     std::string head = "INSERT INTO " + quoteName(into.name) + " (";
     for (const auto& column : rows.columns) {

@@ -12,6 +12,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velcro::sql::tsql {
@@ -99,6 +100,7 @@ private:
     Fragment emit(const Convert& convert, const Scope& scope);
     Fragment emit(const Collate& collate, const Scope& scope);
     Fragment emit(const ScalarQuery& query, const Scope& scope);
+    Fragment scalarQuery(const ScalarQuery& query, const Scope& scope);
     Fragment emit(const FunctionCall& call, const Scope& scope);
     template <class Node>
     Fragment emit(const Node&, const Scope&);
@@ -131,7 +133,45 @@ private:
     std::string test(const Quantified& quantified, const Scope& scope);
     template <class Node>
     std::string test(const Node&, const Scope&);
+    std::string rowsTest(const InQuery& query, const Scope& scope);
+    std::string rowsTest(const Exists& exists, const Scope& scope);
+    std::string rowsTest(const Quantified& quantified, const Scope& scope);
     std::string compare(CompareOp op, Fragment left, Fragment right);
+
+    // EmitterParts.cpp
+    /// The values that the statement around a part hands to it, as that statement's text has them.
+    struct Part
+    {
+        std::vector<std::string> values;
+    };
+    /// One expression more around what is emitted while it lives.
+    struct Level
+    {
+        explicit Level(Emitter& emitter)
+            : count(emitter.level_) {
+            ++count;
+        }
+        ~Level() { --count; }
+        Level(const Level&) = delete;
+        Level& operator=(const Level&) = delete;
+        int& count;
+    };
+    bool standsTooDeep(const Expr& expr) const;
+    template <class Emit>
+    Fragment part(Emit emit);
+    Fragment partOf(const Expr& expr, const Scope& scope);
+    std::string conditionPartOf(const Expr& expr, const Scope& scope);
+    std::string fromOutside(std::string text);
+    template <class Emit>
+    auto outside(Emit emit) {
+        Part* const inner = std::exchange(part_, nullptr);
+        const int level = std::exchange(level_, 0);
+        auto result = emit();
+        part_ = inner;
+        level_ = level;
+        return fromOutside(std::move(result));
+    }
+    Fragment fromOutside(Fragment fragment);
 
     // EmitterPlacing.cpp
     std::string place(Bind bind);
@@ -233,7 +273,9 @@ private:
     std::vector<Bind> binds_;
     std::vector<CommonTableInfo> commonTables_;
     std::vector<GroupCheck> groups_;
-    Recursion recursion_; // of the common table whose query comes next
+    Recursion recursion_;  // of the common table whose query comes next
+    Part* part_ = nullptr; // that the text at hand is in
+    int level_ = 0;        // how many expressions stand around it there
     int aggregateDepth_ = 0;
     int line_ = 0;
 };

@@ -43,7 +43,23 @@ std::string Emitter::conditionOf(const Expr& expr, const Scope& scope) {
     if (expr.line != 0) {
         line_ = static_cast<int>(expr.line);
     }
+    const Level level(*this);
+    if (standsTooDeep(expr)) {
+        return conditionPartOf(expr, scope);
+    }
     return std::visit([&](const auto& node) { return test(node, scope); }, expr.node);
+}
+
+std::string Emitter::test(const InQuery& in, const Scope& scope) {
+    return outside([&] { return rowsTest(in, scope); });
+}
+
+std::string Emitter::test(const Exists& exists, const Scope& scope) {
+    return outside([&] { return rowsTest(exists, scope); });
+}
+
+std::string Emitter::test(const Quantified& quantified, const Scope& scope) {
+    return outside([&] { return rowsTest(quantified, scope); });
 }
 
 template <class Node>
@@ -111,7 +127,7 @@ std::string Emitter::test(const InList& list, const Scope& scope) {
     return text + ")";
 }
 
-std::string Emitter::test(const InQuery& in, const Scope& scope) {
+std::string Emitter::rowsTest(const InQuery& in, const Scope& scope) {
     Fragment operand = valueOf(*in.operand, scope);
     QueryText rows = query(*in.query, &scope, true);
     if (rows.columns.size() != 1) {
@@ -142,12 +158,12 @@ std::string Emitter::test(const Like& like, const Scope& scope) {
     return text + ")";
 }
 
-std::string Emitter::test(const Exists& exists, const Scope& scope) {
+std::string Emitter::rowsTest(const Exists& exists, const Scope& scope) {
     return "EXISTS (" + query(*exists.query, &scope, true).text + ")";
 }
 
 /// x > ALL (q): no row for which x > v fails; = ANY (q): a row for which it holds.
-std::string Emitter::test(const Quantified& quantified, const Scope& scope) {
+std::string Emitter::rowsTest(const Quantified& quantified, const Scope& scope) {
     Fragment operand = valueOf(*quantified.operand, scope);
     const QueryText rows = query(*quantified.query, &scope, true);
     if (rows.columns.size() != 1) {

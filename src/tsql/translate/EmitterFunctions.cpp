@@ -41,10 +41,10 @@ Type sumType(const Type& type, int line, const std::string& name) {
 Emitter::Fragment Emitter::emit(const FunctionCall& call, const Scope& scope) {
     const std::string name = upperName(call.name.name);
     if (isOneOf(aggregates, name)) {
-        return aggregate(name, call, scope);
+        return outside([&] { return aggregate(name, call, scope); });
     }
     if (isOneOf(rankings, name)) {
-        return ranking(name, call, scope);
+        return outside([&] { return ranking(name, call, scope); });
     }
     if (call.over) {
         raiseUnsupported(name + " with OVER", line_);

@@ -53,7 +53,7 @@ std::string Emitter::place(Bind bind) {
         return sqliteLiteral(bind.value);
     }
     binds_.push_back(std::move(bind));
-    return "?" + std::to_string(binds_.size());
+    return fromOutside("?" + std::to_string(binds_.size()));
 }
 
 std::string Emitter::placed(Fragment fragment) {

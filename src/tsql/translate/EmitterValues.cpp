@@ -40,6 +40,10 @@ Emitter::Fragment Emitter::valueOf(const Expr& expr, const Scope& scope) {
     if (expr.line != 0) {
         line_ = static_cast<int>(expr.line);
     }
+    const Level level(*this);
+    if (standsTooDeep(expr)) {
+        return partOf(expr, scope);
+    }
     return std::visit([&](const auto& node) { return emit(node, scope); }, expr.node);
 }
 
@@ -110,7 +114,7 @@ Emitter::Fragment Emitter::emit(const ColumnRef& reference, const Scope& scope) 
     const auto found = scope.find(reference, line_);
     Fragment fragment = columnFragment(*found.source, *found.column);
     checkGrouping(fragment, *found.source, found.column->name);
-    return fragment;
+    return fromOutside(std::move(fragment));
 }
 
 /// A column beside an aggregate must be grouped by, where that can be told.
@@ -276,6 +280,10 @@ Emitter::Fragment Emitter::emit(const Collate& collate, const Scope& scope) {
 }
 
 Emitter::Fragment Emitter::emit(const ScalarQuery& scalar, const Scope& scope) {
+    return outside([&] { return scalarQuery(scalar, scope); });
+}
+
+Emitter::Fragment Emitter::scalarQuery(const ScalarQuery& scalar, const Scope& scope) {
     QueryText text = query(*scalar.query, &scope, true);
     if (text.columns.size() != 1) {
         raise(116, {}, line_);

@@ -22,6 +22,8 @@ public:
     /// Null when the caller bound none of that name.
     virtual const Type* parameter(std::string_view name) const = 0;
     virtual bool identityInsert(const TableDef& table) const = 0;
+    /// Whether expressions are to be cut into parts, because SQLite's parser took them for too deep.
+    virtual bool cutsExpressions() const { return false; }
     /// database.dbo.Table, as messages about stored values have it.
     virtual std::string fullName(const TableDef& table) const = 0;
 };

@@ -220,6 +220,56 @@ TEST_F(EmbeddedStatementsTest, whatHasNoEndOrNoRoomIsRefused) {
     });
 }
 
+TEST_F(EmbeddedStatementsTest, deepExpressionsAnswer) {
+    const auto around = [](std::string before, std::string inner, std::string after, int times) {
+        for (; times > 0; --times) {
+            inner = before + inner + after;
+        }
+        return inner;
+    };
+    const std::string last = "(SELECT RecID FROM Orders WHERE CRONo = 'a1')";
+    const std::string sum = around("(", "RecID", " + 1)", 150);
+    const std::pair<std::string, const char*> rows[] = {
+        {"SELECT " + sum + " FROM Orders", "151;152;153"},
+        {"SELECT COUNT(*) FROM Orders WHERE " + sum + " > 151", "2"},
+        {"SELECT LEN(" + around("CRONo + ", "CRONo", "", 130) + ") FROM Orders WHERE RecID = 1",
+         "262"},
+        {"SELECT " + around("CASE WHEN Qty = 9 THEN 1 / 0 ELSE ", "Qty", " END", 60) +
+             " FROM Orders",
+         "5;0;7"},
+        {"SELECT " + around("CASE WHEN 1 = 1 THEN ", "1 / 0", " END", 40), "error 8134"},
+        {"SELECT " + around("COALESCE(NULL, ", "CRONo", ")", 60) + " FROM Orders WHERE CO = '02'",
+         "C[3]%"},
+        {"SELECT " + around("COALESCE(NULL, ", "SUM(Qty)", ")", 60) +
+             ", CO FROM Orders GROUP BY CO",
+         "5|01;7|02"},
+        {"SELECT SUM(" + around("COALESCE(NULL, ", "Qty", ")", 60) + ") FROM Orders", "12"},
+        {"SELECT COUNT(*) FROM Orders WHERE " + around("ISNULL(NULL, ", "CRONo", ")", 60) +
+             " = 'B2 '",
+         "1"},
+        {"SELECT COUNT(*) FROM Orders WHERE " +
+             around("NOT (", "CRONo IN (SELECT Code FROM Codes)", ")", 60),
+         "1"},
+        {"SELECT " + around("ISNULL(NULL, ", last, ")", 60), "1"},
+        {"SELECT " + around("ISNULL(NULL, ", "ROW_NUMBER() OVER (ORDER BY CRONo DESC)", ")", 60) +
+             " FROM Orders ORDER BY RecID",
+         "3;2;1"},
+        {"DECLARE @x INT SET @x = " + around("(", "2", " * 1 + 1)", 60) + " IF " +
+             around("NOT (", "@x = 62", ")", 60) + " SELECT @x",
+         "62"},
+        {"UPDATE Orders SET Qty = " + sum + " WHERE RecID = 3", "(1)"},
+        {"SELECT RecID, " + sum + " AS N INTO Deep FROM Orders SELECT N FROM Deep",
+         "(3) 151;152;153"},
+        {"SELECT Qty FROM Orders WHERE RecID = 3", "153"},
+    };
+    for (const auto& [batch, answer] : rows) {
+        EXPECT_EQ(database_.answer(batch), answer) << batch;
+    }
+    EXPECT_EQ(database_.answer("CREATE VIEW Deeper AS SELECT " + sum + " AS N FROM Orders"),
+              "(-1)");
+    EXPECT_EQ(database_.answer("SELECT N FROM Deeper WHERE N > 151"), "152;153");
+}
+
 TEST_F(EmbeddedStatementsTest, aFailedStatementEndsItsBatch) {
     expectRows({
         {"UPDATE Orders SET Qty = 1 ; UPDATE Orders SET nope = 1 ; UPDATE Orders SET Qty = 2",
