@@ -86,7 +86,8 @@ int main() {
     const auto file = (folder / "orders.db").string();
     std::filesystem::remove(file);
     const auto connection = createOdbcConnection();
-    connection->connect({.server = "odbc:Driver={SQLite3}", .database = file});
+    connection->connect(
+        {.server = "odbc:Driver={SQLite3}", .database = file, .mayNameDriver = true});
     makeTable(*connection);
 
     Environment environment;

@@ -2,6 +2,7 @@
 
 #include "data/Errors.h"
 #include "data/Prompts.h"
+#include "data/Session.h"
 #include "data/Statement.h"
 #include "platform/sqlserver/EmbeddedConnection.h"
 
@@ -22,6 +23,29 @@ QString sfg_BuildUNIConnectionStr(const QString& xServer, const QString& xDBase,
            QLatin1String("Login Prompt=False;") + QLatin1String("Connect Timeout=0;");
 }
 
+namespace {
+
+/// Takes "Server=odbc:..." out of the text and gives its value; blank where there is none.
+QString takeDriverText(QString& text) {
+    const QLatin1String key("Server=");
+    const auto start = text.indexOf(key + QLatin1String("odbc:"));
+    if (start < 0) {
+        return {};
+    }
+    const auto end = text.indexOf(QLatin1String(";Database="), start);
+    const QString server = text.mid(start, end < 0 ? -1 : end - start);
+    text.remove(start, server.size());
+    return server.mid(key.size());
+}
+
+/// The machine's administrator wrote the configuration file; the row of a database can have been
+/// written by anybody.
+bool standsInMachineConfiguration(const std::string& server) {
+    return server == gCmnHost.toStdString() || server == gLocHost.toStdString();
+}
+
+} // namespace
+
 ConnectionSettings parseConnectionString(const QString& text) {
     using Take = std::function<void(ConnectionSettings&, const QString&)>;
     static const auto ignore = [](ConnectionSettings&, const QString&) {};
@@ -36,7 +60,9 @@ ConnectionSettings parseConnectionString(const QString& text) {
          [](auto& to, const QString& value) { to.connectTimeoutSeconds = StrToInt(value); }},
     };
     ConnectionSettings result;
-    for (const QString& part : text.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    QString rest = text;
+    result.server = takeDriverText(rest).toStdString();
+    for (const QString& part : rest.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const auto equals = part.indexOf(QLatin1Char('='));
         const auto found = settings.find(part.left(equals).trimmed().toLower());
         if (equals < 0 || found == settings.end()) {
@@ -71,6 +97,7 @@ void Connection::open() {
         options_.specificOptions.contains(QLatin1String("ApplicationIntent=aiReadOnly"));
     settings.createDatabase =
         options_.specificOptions.contains(QLatin1String("ForceCreateDatabase=True"));
+    settings.mayNameDriver = standsInMachineConfiguration(settings.server);
     embedded_ = settings.server.starts_with(velcro::sql::embeddedPrefix);
     link_ = factory(settings.server);
     try {
@@ -149,9 +176,23 @@ void Connection::StartTransaction() {
 
 void Connection::Commit() {
     ensureOpen();
-    guarded([this] { link_->commit(); });
+    guarded([this] { commitOnLink(); });
     inTransaction_ = false;
     directWork_ = false;
+}
+
+void Connection::commitOnLink() {
+    try {
+        link_->commit();
+    } catch (const SqlError& error) {
+        if (error.kind() != SqlErrorKind::ConnectionLost) {
+            throw;
+        }
+        auto message = error.message();
+        message.text =
+            "It may or may not be saved: look for it before you save it again.\r" + message.text;
+        throw SqlError(error.kind(), error.sqlState(), std::move(message), {});
+    }
 }
 
 void Connection::Rollback() {
@@ -168,7 +209,7 @@ void Connection::settle() {
     }
     directWork_ = false;
     try {
-        guarded([this] { link_->commit(); });
+        guarded([this] { commitOnLink(); });
     } catch (const SqlError&) {
         rollbackAfterFailure(); // a commit that failed still holds its locks
         throw;

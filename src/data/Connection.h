@@ -44,8 +44,9 @@ QString sfg_BuildUNIConnectionStr(const QString& xServer, const QString& xDBase,
                                   const QString& xUser, const QString& xPswd,
                                   const QString& xProvider, const QString& xIsAzure);
 
-/// Reads such a text back. Throws VelmaraError for a part that is no setting, without quoting it:
-/// it may be the rest of a password.
+/// Reads such a text back. A server that begins with "odbc:" goes on to the database, semicolons and
+/// all. Throws VelmaraError for a part that is no setting, without quoting it: it may be the rest of a
+/// password.
 velcro::sql::ConnectionSettings parseConnectionString(const QString& text);
 
 class Connection : public QObject
@@ -65,6 +66,7 @@ public:
     bool Connected() const;
 
     void StartTransaction();
+    /// Where the connection is lost meanwhile, nobody knows whether it happened, and SqlError says so.
     void Commit();
     void Rollback();
     /// The same when a failure is already on its way to the user: one of its own is only logged.
@@ -91,6 +93,7 @@ private:
     void open();
     void ensureOpen();
     void noteDirectWork();
+    void commitOnLink();
     bool runsAgain() const { return lost_ && options_.whenLost == WhenLost::RunAgain; }
     template <class Work>
     void guarded(const Work& work);

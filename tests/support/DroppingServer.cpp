@@ -23,6 +23,7 @@ public:
         ++server_.statements;
         real_->run(batch, parameters, onResult);
     }
+    void cancel() noexcept override { real_->cancel(); }
     void begin() override {
         maybeDrop();
         real_->begin();

@@ -43,6 +43,7 @@ public:
         }
         onResult(std::move(result));
     }
+    void cancel() noexcept override {}
     void begin() override { note("begin"); }
     void commit() override { note("commit"); }
     void rollback() override { note("rollback"); }

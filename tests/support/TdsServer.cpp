@@ -20,6 +20,7 @@ namespace {
 enum PacketType {
     SqlBatch = 0x01,
     Reply = 0x04,
+    Attention = 0x06,
     Transaction = 0x0E,
     Login7 = 0x10,
     PreLogin = 0x12
@@ -164,6 +165,11 @@ TdsReply& TdsReply::done(std::int64_t affected, bool more, bool failed) {
     return *this;
 }
 
+TdsReply& TdsReply::acknowledgeCancel() {
+    bytes_ += "\xFD" + little(0x20, 2) + little(0, 2) + little(0, 8);
+    return *this;
+}
+
 TdsReply& TdsReply::acceptLogin() {
     const std::string acknowledgement = little(1, 1) + std::string("\x74\x00\x00\x04", 4) +
                                         counted("Microsoft SQL Server") +
@@ -179,6 +185,11 @@ TdsReply& TdsReply::transactionChange(int type, bool begins) {
     const std::string none = little(0, 1);
     bytes_ += environmentChange(type, begins ? id + none : none + id);
     return *this;
+}
+
+TdsReply& TdsReply::endTransaction() {
+    endsTransaction_ = true;
+    return transactionChange(10, false);
 }
 
 TdsServer::TdsServer(Answer answer, Login login)
@@ -219,9 +230,24 @@ void TdsServer::serve() {
         const int client = accept(listener_, nullptr, nullptr);
         if (client >= 0) {
             serveClient(client);
+            endTransaction(false);
             close(client);
         }
     }
+}
+
+TdsReply TdsServer::begun() {
+    inTransaction_ = true;
+    return TdsReply().transactionChange(8, true).done();
+}
+
+void TdsServer::endTransaction(bool keep) {
+    const std::lock_guard lock(mutex_);
+    if (keep) {
+        kept_.insert(kept_.end(), waiting_.begin(), waiting_.end());
+    }
+    waiting_.clear();
+    inTransaction_ = false;
 }
 
 TdsReply TdsServer::answerTransaction(const std::string& body) {
@@ -230,19 +256,46 @@ TdsReply TdsServer::answerTransaction(const std::string& body) {
     const auto code = readNumber(request, 0, 2);
     TdsReply reply;
     if (code == Begin) {
-        return reply.transactionChange(8, true).done();
+        return begun();
     }
     if (cutAtTransactionEnd) {
         return reply.cut();
     }
-    if (code == Rollback && transactionIsOver) {
+    if (!inTransaction_) {
+        const std::string name = code == Commit ? "COMMIT" : "ROLLBACK";
         return reply
-            .error(3903, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.")
+            .error(code == Commit ? 3902 : 3903,
+                   "The " + name + " TRANSACTION request has no corresponding BEGIN TRANSACTION.")
             .done(-1, false, true);
     }
+    endTransaction(code == Commit);
     reply.transactionChange(code == Commit ? 9 : 10, false);
-    const bool another = !request.empty() && (request.back() & 1) != 0;
+    const std::size_t flags = 3; // behind the code and the length of a name, which is blank
+    const bool another = request.size() > flags && (request[flags] & 1) != 0;
+    inTransaction_ = another;
     return (another ? reply.transactionChange(8, true) : reply).done();
+}
+
+void TdsServer::noteWork(const std::string& batch) {
+    if (batch.starts_with("INSERT")) {
+        const std::lock_guard lock(mutex_);
+        (inTransaction_ ? waiting_ : kept_).push_back(batch);
+    }
+}
+
+TdsReply TdsServer::answerBatch(const std::string& batch) {
+    if (batch == "BEGIN TRANSACTION") {
+        return begun();
+    }
+    if (batch == "SELECT @@TRANCOUNT AS N") {
+        return TdsReply().column("N").row(inTransaction_ ? "1" : "0").done(1);
+    }
+    TdsReply reply = answer_(batch);
+    noteWork(batch);
+    if (reply.endsTransaction_) {
+        endTransaction(false);
+    }
+    return reply;
 }
 
 TdsReply TdsServer::answerRequest(int type, const std::string& body) {
@@ -258,13 +311,12 @@ TdsReply TdsServer::answerRequest(int type, const std::string& body) {
                                              .cut();
     case Transaction:
         return answerTransaction(body);
-    case SqlBatch: {
-        const auto batch = batchText(body);
-        transactionIsOver = transactionIsOver && batch != "BEGIN TRANSACTION";
-        return answer_(batch);
-    }
+    case SqlBatch:
+        return answerBatch(batchText(body));
+    case Attention:
+        return reply.acknowledgeCancel();
     default: {
-        const std::lock_guard lock(callMutex_);
+        const std::lock_guard lock(mutex_);
         lastCall_ = body;
         return reply.done();
     }
@@ -283,7 +335,8 @@ void TdsServer::serveClient(int client) {
             continue;
         }
         const TdsReply reply = answerRequest(request->type, request->body);
-        send(client, reply.bytes_, !reply.cut_ || login_ == Login::Refuse);
+        const bool whole = !reply.cut_ && !reply.stalls_;
+        send(client, reply.bytes_, whole || login_ == Login::Refuse);
         if (reply.cut_) {
             return;
         }

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace velcro::test {
 
@@ -31,22 +32,33 @@ public:
         cut_ = true;
         return *this;
     }
+    /// Nothing follows what stands so far, until the client cancels.
+    TdsReply& stall() {
+        stalls_ = true;
+        return *this;
+    }
+    /// The error before it has ended the transaction; done() follows.
+    TdsReply& endTransaction();
 
 private:
     friend class TdsServer;
     TdsReply& message(int token, int number, const std::string& text, int level, int state,
                       int line);
     TdsReply& acceptLogin();
+    TdsReply& acknowledgeCancel();
     TdsReply& transactionChange(int type, bool begins);
 
     std::string bytes_;
     bool cut_ = false;
+    bool stalls_ = false;
+    bool endsTransaction_ = false;
 };
 
 class TdsServer
 {
 public:
-    /// What a batch is answered with; it runs on the server's thread.
+    /// What a batch is answered with; it runs on the server's thread. Batches that ask for or begin a
+    /// transaction are answered by the server itself.
     using Answer = std::function<TdsReply(const std::string& batch)>;
 
     enum class Login { Accept, Refuse, CutAtOnce, NeverAnswer };
@@ -58,13 +70,17 @@ public:
 
     /// "127.0.0.1,<port>"
     std::string address() const;
-    /// What a commit or rollback is answered with from now on, beside the ordinary.
+    /// From now on a commit or rollback is not answered: the connection is cut.
     std::atomic<bool> cutAtTransactionEnd = false;
-    std::atomic<bool> transactionIsOver = false; // rollback is refused with 3903
 
+    /// The batches that begin with INSERT and were kept: committed, or sent outside a transaction.
+    std::vector<std::string> kept() const {
+        const std::lock_guard lock(mutex_);
+        return kept_;
+    }
     /// The bytes of the last procedure call, which is how a batch with parameters comes.
     std::string lastCall() const {
-        const std::lock_guard lock(callMutex_);
+        const std::lock_guard lock(mutex_);
         return lastCall_;
     }
 
@@ -73,11 +89,18 @@ private:
     void serveClient(int socket);
     TdsReply answerRequest(int type, const std::string& body);
     TdsReply answerTransaction(const std::string& body);
+    TdsReply answerBatch(const std::string& batch);
+    TdsReply begun();
+    void noteWork(const std::string& batch);
+    void endTransaction(bool keep);
 
     Answer answer_;
     Login login_;
-    mutable std::mutex callMutex_;
+    mutable std::mutex mutex_;
     std::string lastCall_;
+    std::vector<std::string> kept_;
+    std::vector<std::string> waiting_; // for the commit
+    bool inTransaction_ = false;
     int listener_ = -1;
     int wake_[2] = {-1, -1};
     int port_ = 0;

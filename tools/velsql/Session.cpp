@@ -60,6 +60,7 @@ private:
         settings.user = line_.user;
         settings.password = line_.password;
         settings.createDatabase = true;
+        settings.mayNameDriver = true;
         try {
             connection_->connect(settings);
             return true;

@@ -36,6 +36,11 @@ public:
              const OnResult& onResult) override {
         session(batch).run(batch, parameters, onResult);
     }
+    void cancel() noexcept override {
+        if (session_) {
+            session_->cancel();
+        }
+    }
     void begin() override { session({}).begin(); }
     void commit() override { session({}).commit(); }
     void rollback() override { session({}).rollback(); }

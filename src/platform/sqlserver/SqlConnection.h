@@ -12,22 +12,25 @@
 
 namespace velcro::sql {
 
-/// Where to connect. server is "embedded:<folder>" for the stand-in, else host, host,port or
-/// host\instance.
+/// Where to connect. server is "embedded:<folder>" for the stand-in, else host, host,port,
+/// host\instance, or "odbc:" and a driver's own text.
 struct ConnectionSettings
 {
     std::string server = {};
     std::string database = {};
     std::string user = {};
     std::string password = {};
-    int connectTimeoutSeconds = 0; // 0 waits as long as the driver does
+    int connectTimeoutSeconds = 0; // 0: 15 seconds
     bool readOnlyIntent = false;
     bool autoCommit = true;      // false: what run() writes outside begin() waits for commit()
     bool createDatabase = false; // the stand-in may make the database, if its folder is there
+    /// Whether a server "odbc:<connection string>", which loads the driver it names, is honoured: only
+    /// where whoever looks after this machine wrote it.
+    bool mayNameDriver = false;
 };
 
-/// One connection, used by one thread. Every operation throws SqlError. A connection that was lost
-/// stays unusable until connect() is called again.
+/// One connection, used by one thread but for cancel(). Every operation throws SqlError. A connection
+/// that was lost stays unusable until connect() is called again.
 class SqlConnection
 {
 public:
@@ -46,6 +49,10 @@ public:
     /// says of later statements is drained before the first error is thrown.
     virtual void run(std::string_view batch, std::span<const Parameter> parameters,
                      const OnResult& onResult) = 0;
+
+    /// Asks the batch that runs to end, from any thread; run() then throws SQLSTATE HY008, as soon
+    /// as a server that is asked answers. Does nothing when nothing runs.
+    virtual void cancel() noexcept = 0;
 
     /// With autoCommit off the transaction begins with whatever waits, and ends with it.
     virtual void begin() = 0;

@@ -80,7 +80,21 @@ void Session::guarded(std::string_view text, Work work) {
 
 void Session::run(std::string_view batch, std::span<const Parameter> parameters,
                   const OnResult& onResult) {
-    guarded(batch, [&] { runPieces(batch, parameters, onResult); });
+    cancelled_ = false;
+    try {
+        guarded(batch, [&] { runPieces(batch, parameters, onResult); });
+    } catch (const SqlError&) {
+        if (cancelled_) {
+            throw SqlError(SqlErrorKind::Statement, "HY008",
+                           {.text = "The statement was cancelled."}, std::string(batch));
+        }
+        throw;
+    }
+}
+
+void Session::cancel() noexcept {
+    cancelled_ = true;
+    sqlite3_interrupt(file_.handle.get());
 }
 
 void Session::begin() {

@@ -17,6 +17,7 @@
 #include "tsql/syntax/TextPattern.h"
 #include "tsql/translate/Emitter.h"
 
+#include <atomic>
 #include <deque>
 #include <map>
 #include <optional>
@@ -53,6 +54,8 @@ public:
     /// Everything throws SqlError.
     void run(std::string_view batch, std::span<const Parameter> parameters,
              const OnResult& onResult);
+    /// Ends the batch that runs, from any thread.
+    void cancel() noexcept;
     void begin();
     void commit();
     void rollback();
@@ -219,6 +222,7 @@ private:
     std::function<Value(std::string_view)> sessionValue_;
     std::optional<std::int64_t> statementTime_; // asked for by the running statement
 
+    std::atomic<bool> cancelled_ = false;
     std::string identityInsert_;       // the table it is on for
     std::int64_t settingsVersion_ = 0; // goes up when a setting changes what is translated
     bool noCount_ = false;

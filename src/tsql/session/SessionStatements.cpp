@@ -35,6 +35,9 @@ Session::Flow Session::runAll(const std::vector<StatementPtr>& statements, Place
 Session::Flow Session::runStatement(const Statement& statement, Place& place) {
     line_ = static_cast<int>(statement.line);
     statementTime_.reset();
+    if (cancelled_) {
+        throw Fault({.text = "The statement was cancelled."});
+    }
     try {
         const Flow flow = visitStatement(statement, place);
         lastError_ = 0;

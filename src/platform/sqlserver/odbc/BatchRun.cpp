@@ -16,12 +16,13 @@ class BatchRun
 {
 public:
     BatchRun(SQLHANDLE connection, DriverKind kind, std::string_view batch,
-             const SqlConnection::OnResult& onResult)
+             const SqlConnection::OnResult& onResult, RunningStatement& running)
         : connection_(connection)
         , kind_(kind)
         , batch_(batch)
         , onResult_(onResult)
-        , statement_(connection) {}
+        , statement_(connection)
+        , running_(running, statement_.get()) {}
 
     void run(std::span<const Parameter> parameters) {
         const auto prepared = prepareText(batch_, parameters, kind_ != DriverKind::Other);
@@ -39,6 +40,10 @@ public:
         for (code = SQLMoreResults(statement_.get()); code != SQL_NO_DATA && !over_;
              code = SQLMoreResults(statement_.get())) {
             takeResult(code);
+        }
+        if (running_.cancelled()) {
+            first_.reset();
+            keep({"HY008", {.text = "The statement was cancelled."}}, SqlErrorKind::Statement);
         }
         if (first_) {
             throw std::move(*first_);
@@ -103,7 +108,7 @@ private:
         const auto& said = decisive(all);
         if (isDead(connection_) || isLossState(said.sqlState)) {
             first_.reset();
-            keep(said, SqlErrorKind::ConnectionLost);
+            keep(asLoss(said), SqlErrorKind::ConnectionLost);
             throw std::move(*first_);
         }
         // Nothing follows a call that the driver or its manager would not even make, and a driver
@@ -124,6 +129,7 @@ private:
     std::string_view batch_;
     const SqlConnection::OnResult& onResult_;
     StatementHandle statement_;
+    RunningStatement::Scope running_;
     std::optional<SqlError> first_;
     std::size_t failures_ = 0;
     bool over_ = false;
@@ -132,10 +138,11 @@ private:
 } // namespace
 
 void runBatch(SQLHANDLE connection, DriverKind kind, std::string_view batch,
-              std::span<const Parameter> parameters, const SqlConnection::OnResult& onResult) {
+              std::span<const Parameter> parameters, const SqlConnection::OnResult& onResult,
+              RunningStatement& running) {
     // A server takes a blank batch and does nothing; a driver manager refuses to send it.
     if (batch.find_first_not_of(" \t\r\n") != std::string_view::npos) {
-        BatchRun(connection, kind, batch, onResult).run(parameters);
+        BatchRun(connection, kind, batch, onResult, running).run(parameters);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/sqlserver/SqlConnection.h"
 #include "platform/sqlserver/odbc/DriverChoice.h"
+#include "platform/sqlserver/odbc/RunningStatement.h"
 
 #include <span>
 #include <string_view>
@@ -10,9 +11,11 @@
 namespace velcro::sql::odbc {
 
 /// Hands over each statement's result in order. Goes on behind a failed statement as the server
-/// does, to the last result, and then throws the first error; a lost connection at once.
+/// does, to the last result, and then throws the first error; a lost connection at once. What runs
+/// is made known in running.
 void runBatch(SQLHANDLE connection, DriverKind kind, std::string_view batch,
-              std::span<const Parameter> parameters, const SqlConnection::OnResult& onResult);
+              std::span<const Parameter> parameters, const SqlConnection::OnResult& onResult,
+              RunningStatement& running);
 
 /// What the driver knows of the connection after a failed call.
 bool isDead(SQLHANDLE connection);

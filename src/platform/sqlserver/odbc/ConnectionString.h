@@ -10,7 +10,8 @@
 namespace velcro::sql::odbc {
 
 /// What a server value begins with that is itself a driver's connection string; database, user and
-/// password are added to it. For drivers and options that the settings have no field for.
+/// password are added to it. For drivers and options that the settings have no field for; honoured
+/// where the settings allow it only, since it loads whatever library it names.
 inline constexpr std::string_view explicitPrefix = "odbc:";
 
 /// A server as it was written: host; host,port; host\instance; each with or without "tcp:" before.

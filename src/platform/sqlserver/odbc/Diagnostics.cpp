@@ -95,6 +95,11 @@ const Diagnostic& connectCause(const std::vector<Diagnostic>& all) {
     return found == all.end() ? all.front() : *found;
 }
 
+Diagnostic asLoss(Diagnostic said) {
+    said.message.text = "The connection to the server was lost.\r" + said.message.text;
+    return said;
+}
+
 bool isLossState(std::string_view sqlState) {
     return sqlState == "08S01" || sqlState == "08001" || sqlState == "08003" || sqlState == "08007";
 }

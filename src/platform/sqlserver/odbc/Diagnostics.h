@@ -30,6 +30,9 @@ const Diagnostic& decisive(const std::vector<Diagnostic>& all);
 /// Why a connection was not made. Drivers put a bare "cannot connect" beside the cause, in any order.
 const Diagnostic& connectCause(const std::vector<Diagnostic>& all);
 
+/// The same, told as a lost connection: what happened in plain words, then the driver's.
+Diagnostic asLoss(Diagnostic said);
+
 /// SQLSTATEs that say that there is no connection any more.
 bool isLossState(std::string_view sqlState);
 

@@ -49,6 +49,19 @@ bool ignoringMissingTransaction(Work work) {
     }
 }
 
+// A server that takes the connection and never answers must not hold a start for ever.
+constexpr int connectSeconds = 15;
+
+void requireMayNameDriver(const ConnectionSettings& settings) {
+    if (settings.server.starts_with(explicitPrefix) && !settings.mayNameDriver) {
+        throw SqlError(SqlErrorKind::NotConnected, "IM002",
+                       {.text =
+                            "A server that begins with \"odbc:\" names the driver to load, and is "
+                            "taken from the machine configuration file only."},
+                       {});
+    }
+}
+
 class OdbcConnection final : public SqlConnection
 {
 public:
@@ -60,6 +73,7 @@ public:
 
     void run(std::string_view batch, std::span<const Parameter> parameters,
              const OnResult& onResult) override;
+    void cancel() noexcept override { running_.cancel(); }
 
     void begin() override;
     void commit() override;
@@ -71,24 +85,30 @@ private:
     [[noreturn]] void fail();
     void setAutoCommit(bool on);
     void endTransaction(SQLSMALLINT how);
+    void keepTransaction();
+    bool hasTransaction();
+    void beginAtServer();
 
+    RunningStatement running_;
     Environment environment_;
     ConnectionHandle connection_;
     DriverKind kind_ = DriverKind::Other;
     bool autoCommit_ = true;
     bool inTransaction_ = false;
+    bool endedByServer_ = false; // the transaction that inTransaction_ speaks of
     bool lost_ = false;
 };
 
 void OdbcConnection::connect(const ConnectionSettings& settings) {
     disconnect();
+    requireMayNameDriver(settings);
     const bool isExplicit = settings.server.starts_with(explicitPrefix);
     const Driver driver = isExplicit ? Driver() : driverFor(environment_.get());
     ConnectionHandle connection(environment_.get());
-    if (settings.connectTimeoutSeconds > 0) {
-        const auto seconds = static_cast<SQLULEN>(settings.connectTimeoutSeconds);
-        SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT, attributeValue(seconds), 0);
-    }
+    const int seconds =
+        settings.connectTimeoutSeconds > 0 ? settings.connectTimeoutSeconds : connectSeconds;
+    SQLSetConnectAttrW(connection.get(), SQL_ATTR_LOGIN_TIMEOUT,
+                       attributeValue(static_cast<SQLULEN>(seconds)), 0);
     const auto text = toUtf16(connectionString(settings, driver));
     const auto code = SQLDriverConnectW(connection.get(), nullptr, wide(text.data()),
                                         static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
@@ -101,6 +121,7 @@ void OdbcConnection::connect(const ConnectionSettings& settings) {
     connection_ = std::move(connection);
     lost_ = false;
     inTransaction_ = false;
+    endedByServer_ = false;
     kind_ = kindOfLibrary(info(connection_.get(), SQL_DRIVER_NAME));
     autoCommit_ = settings.autoCommit;
     try {
@@ -133,20 +154,69 @@ void OdbcConnection::requireConnected() const {
 
 void OdbcConnection::fail() {
     const auto all = diagnostics(SQL_HANDLE_DBC, connection_.get(), true);
-    const auto& [state, message] = decisive(all);
-    lost_ = isDead(connection_.get()) || isLossState(state);
-    throw SqlError(lost_ ? SqlErrorKind::ConnectionLost : SqlErrorKind::Statement, state, message,
-                   {});
+    Diagnostic said = decisive(all);
+    lost_ = isDead(connection_.get()) || isLossState(said.sqlState);
+    if (lost_) {
+        said = asLoss(std::move(said));
+    }
+    throw SqlError(lost_ ? SqlErrorKind::ConnectionLost : SqlErrorKind::Statement, said.sqlState,
+                   said.message, {});
 }
 
 void OdbcConnection::run(std::string_view batch, std::span<const Parameter> parameters,
                          const OnResult& onResult) {
     requireConnected();
     try {
-        runBatch(connection_.get(), kind_, batch, parameters, onResult);
+        runBatch(connection_.get(), kind_, batch, parameters, onResult, running_);
     } catch (const SqlError& error) {
         lost_ = error.kind() == SqlErrorKind::ConnectionLost;
+        if (!lost_) {
+            keepTransaction();
+        }
         throw;
+    }
+}
+
+// Some errors make the server end the transaction by itself. What is sent then would be kept at
+// once, statement by statement, and the commit after it fail: so it is found out here, and what was
+// begun for the program goes on as a new one, which only a rollback may end.
+void OdbcConnection::keepTransaction() {
+    const bool expected = !autoCommit_ || inTransaction_;
+    if (!expected || kind_ == DriverKind::Other) {
+        return;
+    }
+    try {
+        if (!hasTransaction()) {
+            endedByServer_ = inTransaction_;
+            beginAtServer();
+        }
+    } catch (const SqlError& error) {
+        // Nobody knows what would become of work on it.
+        lost_ = true;
+        const Diagnostic said{error.sqlState(), error.message()};
+        throw SqlError(
+            SqlErrorKind::ConnectionLost, said.sqlState,
+            error.kind() == SqlErrorKind::ConnectionLost ? said.message : asLoss(said).message, {});
+    }
+}
+
+bool OdbcConnection::hasTransaction() {
+    std::int64_t count = 0;
+    const auto take = [&count](StatementResult&& result) {
+        if (result.rows && result.rows->rowCount() > 0) {
+            count = result.rows->integer(0, 0);
+        }
+    };
+    runBatch(connection_.get(), kind_, "SELECT @@TRANCOUNT AS N", {}, take, running_);
+    return count > 0;
+}
+
+// The vendor's drivers have the server begin one with the next statement; a begin beside that would
+// make two of it.
+void OdbcConnection::beginAtServer() {
+    if (kind_ == DriverKind::FreeTds) {
+        runBatch(
+            connection_.get(), kind_, "BEGIN TRANSACTION", {}, [](StatementResult&&) {}, running_);
     }
 }
 
@@ -181,6 +251,15 @@ void OdbcConnection::commit() {
              .text = "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION."},
             {});
     }
+    if (endedByServer_) {
+        rollback();
+        throw SqlError(SqlErrorKind::Statement, "25000",
+                       {.number = 3902,
+                        .text =
+                            "The server ended the transaction when an error occurred: nothing of "
+                            "it was saved."},
+                       {});
+    }
     endTransaction(SQL_COMMIT);
     inTransaction_ = false;
     setAutoCommit(autoCommit_);
@@ -188,13 +267,17 @@ void OdbcConnection::commit() {
 
 void OdbcConnection::rollback() {
     inTransaction_ = false;
+    endedByServer_ = false;
     if (lost_) {
         return; // the server has rolled back when the connection went
     }
     requireConnected();
     // Some errors make the server end the transaction by itself; there is nothing left to do then.
-    ignoringMissingTransaction([this] { endTransaction(SQL_ROLLBACK); });
+    const bool ended = ignoringMissingTransaction([this] { endTransaction(SQL_ROLLBACK); });
     if (!autoCommit_) {
+        if (!ended) {
+            beginAtServer();
+        }
         return;
     }
     if (!ignoringMissingTransaction([this] { setAutoCommit(true); })) {

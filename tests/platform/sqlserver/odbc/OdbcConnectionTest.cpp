@@ -22,7 +22,8 @@ protected:
 
     velcro::test::TempFolder folder;
     ConnectionSettings settings{.server = "odbc:Driver={SQLite3};Timeout=1000",
-                                .database = folder.file("test.db")};
+                                .database = folder.file("test.db"),
+                                .mayNameDriver = true};
     std::unique_ptr<SqlConnection> connection = createOdbcConnection();
 };
 
@@ -153,6 +154,9 @@ TEST_F(OdbcConnectionTest, workWithoutAConnectionIsRefused) {
     EXPECT_FALSE(connection->isConnected());
     EXPECT_EQ(failure("SELECT 1").kind(), SqlErrorKind::NotConnected);
     EXPECT_THROW(connection->begin(), SqlError);
+    settings.mayNameDriver = false;
+    EXPECT_THROW(connection->connect(settings), SqlError) << "the driver of a value from outside";
+    settings.mayNameDriver = true;
     settings.server = "odbc:Driver={No Such Driver}";
     settings.password = "TopSecret";
     try {

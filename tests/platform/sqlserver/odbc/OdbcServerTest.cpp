@@ -1,11 +1,13 @@
 // The ODBC end through FreeTDS against a server that fails, talks and breaks off at will.
 #include "platform/sqlserver/Utf16.h"
 #include "platform/sqlserver/odbc/OdbcConnection.h"
+#include "support/BadNetwork.h"
 #include "support/TdsServer.h"
 
 #include <gtest/gtest.h>
 
 using namespace velcro::sql;
+using velcro::test::BadNetwork;
 using velcro::test::TdsReply;
 using velcro::test::TdsServer;
 
@@ -30,6 +32,14 @@ TdsReply answer(const std::string& batch) {
         reply.error(208, "Invalid object name 'nowhere'.", 15, 3, 2).done(-1, true, true);
         reply.error(2627, "Violation of PRIMARY KEY constraint.", 14, 1, 3).done(-1, true, true);
         return reply.done(5);
+    }
+    if (batch == "stall") {
+        return reply.column("s").row("never the last").stall();
+    }
+    if (batch == "ends the transaction") {
+        return reply.error(1205, "Chosen as the deadlock victim.", 13)
+            .endTransaction()
+            .done(-1, false, true);
     }
     if (batch == "PRINT") {
         return reply.information(0, "printed").done();
@@ -163,7 +173,9 @@ TEST_F(OdbcServerTest, aCutConnectionIsToldFromAFailedStatement) {
         const auto error = failure(batch);
         EXPECT_EQ(error.kind(), SqlErrorKind::ConnectionLost) << batch;
         EXPECT_EQ(error.statement(), batch);
-        EXPECT_STRNE(error.what(), "");
+        EXPECT_TRUE(
+            std::string(error.what()).starts_with("The connection to the server was lost.\r"))
+            << error.what();
         EXPECT_FALSE(connection->isConnected());
         EXPECT_EQ(failure("echo x").kind(), SqlErrorKind::NotConnected);
         EXPECT_NO_THROW(connection->rollback()) << "nothing is left to roll back";
@@ -177,15 +189,83 @@ TEST_F(OdbcServerTest, aCutConnectionIsToldFromAFailedStatement) {
     EXPECT_FALSE(connection->isConnected());
 }
 
-TEST_F(OdbcServerTest, aTransactionTheServerEndedItselfCanBeRolledBack) {
+TEST_F(OdbcServerTest, aTransactionTheServerEndedIsFoundOutAtOnce) {
+    using Batches = std::vector<std::string>;
+    for (const bool autoCommit : {false, true}) {
+        SCOPED_TRACE(autoCommit);
+        const auto before = server.kept().size();
+        const auto kept = [&] {
+            const auto all = server.kept();
+            return Batches(all.begin() + static_cast<long>(before), all.end());
+        };
+        settings.autoCommit = autoCommit;
+        connect();
+        EXPECT_EQ(failure("ends the transaction").number(), 1205) << "a read, before the save";
+        connection->begin();
+        connection->execute("INSERT 1");
+        EXPECT_EQ(kept(), Batches()) << "kept before its commit";
+        EXPECT_NO_THROW(connection->commit());
+        EXPECT_EQ(kept(), Batches{"INSERT 1"});
+
+        connection->begin();
+        connection->execute("INSERT half");
+        failure("ends the transaction");
+        connection->execute("INSERT the other half");
+        const auto error = failure([this] { connection->commit(); });
+        EXPECT_EQ(error.sqlState(), "25000");
+        EXPECT_NE(std::string(error.what()).find("nothing of it was saved"), std::string::npos);
+        connection->begin();
+        failure("ends the transaction");
+        EXPECT_NO_THROW(connection->rollback());
+        connection->begin();
+        connection->execute("INSERT lost with its connection");
+        failure("cut at once");
+        connect();
+        connection->begin();
+        EXPECT_NO_THROW(connection->commit());
+        EXPECT_EQ(kept(), Batches{"INSERT 1"});
+    }
+}
+
+TEST_F(OdbcServerTest, aStatementIsCancelledFromOutside) {
+    BadNetwork network(server.address());
+    network.delay(std::chrono::milliseconds(1));
+    settings.server = network.address();
     connect();
-    connection->begin();
-    EXPECT_EQ(failure("first fails").number(), 245);
-    server.transactionIsOver = true;
-    EXPECT_NO_THROW(connection->rollback());
-    server.transactionIsOver = false;
-    connection->begin();
-    EXPECT_NO_THROW(connection->commit());
+    const auto runAnd = [&](const std::function<void()>& meanwhile) {
+        std::thread other([&, come = network.requests() + 1] {
+            network.waitForRequests(come);
+            meanwhile();
+        });
+        const auto error = failure("stall");
+        other.join();
+        return error;
+    };
+    connection->cancel();
+    const auto error = runAnd([this] { connection->cancel(); });
+    EXPECT_EQ(error.kind(), SqlErrorKind::Statement);
+    EXPECT_EQ(error.sqlState(), "HY008");
+    EXPECT_STREQ(error.what(), "The statement was cancelled.");
+    EXPECT_EQ(connection->query("echo on").text(0, 0), "on");
+    const auto unanswered = runAnd([&] {
+        network.stall();
+        connection->cancel();
+        network.cut();
+    });
+    EXPECT_EQ(unanswered.kind(), SqlErrorKind::ConnectionLost);
+}
+
+TEST_F(OdbcServerTest, aLostAnswerToACommitIsALossWhetherItWasKeptOrNot) {
+    BadNetwork network(server.address());
+    settings.server = network.address();
+    for (const bool arrives : {true, false}) {
+        connect();
+        connection->begin();
+        connection->execute(arrives ? "INSERT kept" : "INSERT not kept");
+        arrives ? network.cutAtAnswer(1) : network.cutAtRequest(1);
+        EXPECT_EQ(failure([this] { connection->commit(); }).kind(), SqlErrorKind::ConnectionLost);
+        EXPECT_EQ(server.kept(), std::vector<std::string>{"INSERT kept"});
+    }
 }
 
 TEST_F(OdbcServerTest, connectFailuresAreClearAndShowNoPassword) {
