@@ -75,7 +75,8 @@ bool RowSetModel::isNumeric(int column) const {
         return false;
     }
     const auto type = rows_.column(*sources_[column]).type;
-    return type == sql::ColumnType::Integer || type == sql::ColumnType::Float;
+    return type == sql::ColumnType::Integer || type == sql::ColumnType::Float ||
+           type == sql::ColumnType::Decimal;
 }
 
 QString RowSetModel::text(int viewRow, int column) const {

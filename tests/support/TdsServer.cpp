@@ -158,6 +158,19 @@ TdsReply& TdsReply::row(const std::string& value) {
     return *this;
 }
 
+TdsReply& TdsReply::decimalColumn(const std::string& name, int digits, int scale) {
+    bytes_ += "\x81" + little(1, 2) + little(0, 4) + little(9, 2) + "\x6A" + little(9, 1) +
+              little(static_cast<unsigned>(digits), 1) + little(static_cast<unsigned>(scale), 1) +
+              counted(name);
+    return *this;
+}
+
+TdsReply& TdsReply::decimalRow(std::int64_t value) {
+    bytes_ += "\xD1" + little(9, 1) + little(value < 0 ? 0 : 1, 1) +
+              little(static_cast<std::uint64_t>(value < 0 ? -value : value), 8);
+    return *this;
+}
+
 TdsReply& TdsReply::done(std::int64_t affected, bool more, bool failed) {
     const unsigned status = (more ? 1U : 0U) | (failed ? 2U : 0U) | (affected >= 0 ? 0x10U : 0U);
     bytes_ += "\xFD" + little(status, 2) + little(0xC1, 2) +

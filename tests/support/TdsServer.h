@@ -25,6 +25,9 @@ public:
     }
     TdsReply& column(const std::string& name);
     TdsReply& row(const std::string& value);
+    /// One column of decimal(digits, scale), and its rows without their point.
+    TdsReply& decimalColumn(const std::string& name, int digits, int scale);
+    TdsReply& decimalRow(std::int64_t value);
     /// Ends a statement. affected is -1 where it has no count; more tells that another follows.
     TdsReply& done(std::int64_t affected = -1, bool more = false, bool failed = false);
     /// The connection is cut behind what stands so far.

@@ -2,6 +2,7 @@
 
 #include "platform/sqlserver/Utf16.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 
@@ -53,6 +54,7 @@ void scan(sql::TextScanner& scanner, std::string_view line) {
 
 std::optional<Batch> BatchReader::next() {
     Batch batch;
+    batch.line = line_ + 1;
     sql::TextScanner scanner;
     std::string line;
     while (readLine(line)) {
@@ -67,6 +69,7 @@ std::optional<Batch> BatchReader::next() {
             return batch;
         }
         batch = Batch();
+        batch.line = line_ + 1;
         scanner = sql::TextScanner();
     }
     return trimmed(batch.text).empty() ? std::nullopt : std::optional(batch);
@@ -99,10 +102,25 @@ bool BatchReader::readLine(std::string& line) {
     if (encoding_ == Encoding::Unknown) {
         detectEncoding();
     }
+    ++line_;
     if (encoding_ != Encoding::Utf8) {
         return readWideLine(line);
     }
-    return static_cast<bool>(std::getline(in_, line));
+    if (!std::getline(in_, line)) {
+        return false;
+    }
+    if (const auto nul = line.find('\0'); nul != std::string::npos) {
+        refuse(nul, "a NUL character; text in UTF-16 begins with its byte order mark");
+    }
+    if (const auto bad = sql::firstInvalidUtf8(line); bad < line.size()) {
+        refuse(bad, "neither UTF-8 nor UTF-16 with its byte order mark");
+    }
+    return true;
+}
+
+void BatchReader::refuse(std::size_t byte, const char* why) const {
+    throw NoText("line " + std::to_string(line_) + ", byte " + std::to_string(byte + 1) + ": " +
+                 why);
 }
 
 bool BatchReader::readWideLine(std::string& line) {
@@ -119,7 +137,16 @@ bool BatchReader::readWideLine(std::string& line) {
         }
         wide += unit;
     }
+    if (in_.gcount() == 1) {
+        refuse(wide.size() * 2, "half a character of UTF-16");
+    }
+    if (const auto nul = wide.find(u'\0'); nul != std::u16string::npos) {
+        refuse(nul * 2, "a NUL character");
+    }
     line = sql::toUtf8(wide);
+    if (sql::toUtf16(line) != wide) {
+        refuse(0, "half a surrogate pair of UTF-16");
+    }
     return any;
 }
 

@@ -1,5 +1,7 @@
 #include "ResultPrinter.h"
 
+#include <algorithm>
+
 namespace velcro::velsql {
 
 namespace {
@@ -45,17 +47,18 @@ bool isError(const sql::SqlMessage& message) {
     return message.level > 10;
 }
 
-void print(const sql::SqlMessage& message, std::ostream& out) {
+void print(const sql::SqlMessage& message, const BatchPlace& place, std::ostream& out) {
     if (isError(message)) {
         out << "Msg " << message.number << ", Level " << message.level << ", State "
-            << message.state << ": ";
+            << message.state << ", " << place.script << (place.script.empty() ? "" : ", ")
+            << "Line " << place.line + std::max(message.line, 1) - 1 << ": ";
     }
     out << message.text << '\n';
 }
 
-void print(const sql::StatementResult& result, std::ostream& out) {
+void print(const sql::StatementResult& result, const BatchPlace& place, std::ostream& out) {
     for (const auto& message : result.messages) {
-        print(message, out);
+        print(message, place, out);
     }
     if (result.rows) {
         printRows(*result.rows, out);

@@ -1,8 +1,12 @@
 #include "Session.h"
 
 #include "BatchReader.h"
+#include "Interrupt.h"
 #include "ResultPrinter.h"
 
+#include <atomic>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -29,6 +33,7 @@ public:
         if (!filesAreReadable() || !connect()) {
             return 1;
         }
+        const Interrupt interrupt([this] { return cancel(); });
         for (const Source& source : line_.sources) {
             runSource(source);
             if (over_) {
@@ -49,8 +54,33 @@ private:
                 problems_ << "velsql: cannot read " << source.value << '\n';
                 return false;
             }
+            if (std::filesystem::is_regular_file(source.value) && !isText(source.value)) {
+                return false;
+            }
         }
         return true;
+    }
+
+    bool isText(const std::string& name) {
+        std::ifstream file(name, std::ios::binary);
+        BatchReader reader(file);
+        try {
+            while (reader.next()) {
+            }
+            return true;
+        } catch (const NoText& problem) {
+            problems_ << "velsql: " << name << ", " << problem.what() << '\n';
+            return false;
+        }
+    }
+
+    /// On the thread of the interrupt. False where there is nothing to cancel.
+    bool cancel() {
+        if (running_) {
+            connection_->cancel();
+        }
+        interrupted_ = true;
+        return running_;
     }
 
     bool connect() {
@@ -73,46 +103,66 @@ private:
 
     void runSource(const Source& source) {
         if (source.kind == Source::Kind::StandardInput) {
-            runBatches(standardInput_);
+            runBatches(standardInput_, {});
         } else if (source.kind == Source::Kind::Text) {
             std::istringstream text(source.value);
-            runBatches(text);
+            runBatches(text, {});
         } else {
             std::ifstream file(source.value, std::ios::binary);
-            runBatches(file);
+            runBatches(file, source.value);
         }
     }
 
-    void runBatches(std::istream& in) {
+    void runBatches(std::istream& in, const std::string& script) {
         BatchReader reader(in);
         while (!over_) {
-            const auto batch = reader.next();
+            std::optional<Batch> batch;
+            try {
+                batch = reader.next();
+            } catch (const NoText& problem) {
+                stop("velsql: " + (script.empty() ? "standard input" : script) + ", " +
+                     problem.what());
+            }
             if (!batch) {
                 return;
             }
+            running_ = true;
             for (int i = 0; i < batch->count && !over_; ++i) {
-                runBatch(batch->text);
+                runBatch(batch->text, {script, batch->line});
             }
+            running_ = false;
         }
     }
 
-    void runBatch(const std::string& text) {
+    void stop(const std::string& problem) {
+        problems_ << problem << '\n';
+        failed_ = true;
+        over_ = true;
+    }
+
+    void runBatch(const std::string& text, const BatchPlace& place) {
         bool printedError = false;
         try {
             connection_->run(text, {}, [&](sql::StatementResult&& result) {
                 for (const auto& message : result.messages) {
                     printedError = printedError || isError(message);
                 }
-                print(result, out_);
+                print(result, place, out_);
             });
         } catch (const SqlError& error) {
-            if (!printedError) {
-                print(error.message(), out_);
+            if (!printedError || error.sqlState() == "HY008") {
+                print(error.message(), place, out_);
             }
             failed_ = true;
             over_ = line_.stopAtError || error.kind() != SqlErrorKind::Statement;
         }
-        out_.flush();
+        failed_ = failed_ || interrupted_;
+        over_ = over_ || interrupted_;
+        errno = 0;
+        if (!out_.flush()) {
+            stop(std::string("velsql: cannot write the results: ") +
+                 (errno != 0 ? std::strerror(errno) : "the output takes no more"));
+        }
     }
 
     const CommandLine& line_;
@@ -122,6 +172,8 @@ private:
     std::unique_ptr<sql::SqlConnection> connection_;
     bool failed_ = false;
     bool over_ = false;
+    std::atomic<bool> running_ = false;
+    std::atomic<bool> interrupted_ = false;
 };
 
 } // namespace

@@ -77,6 +77,18 @@ std::u16string toUtf16(std::string_view utf8) {
     return out;
 }
 
+std::size_t firstInvalidUtf8(std::string_view utf8) {
+    std::size_t at = 0;
+    while (at < utf8.size()) {
+        const auto [point, length] = decode(utf8.substr(at));
+        if (point == replacement && length == 1) {
+            break;
+        }
+        at += length;
+    }
+    return at;
+}
+
 void appendUtf8(std::u16string_view utf16, std::string& out) {
     const auto plain =
         std::find_if(utf16.begin(), utf16.end(), [](char16_t c) { return c >= 0x80; }) -

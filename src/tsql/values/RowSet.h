@@ -13,8 +13,9 @@
 namespace velcro::sql {
 
 /// How a column's cells are held. DateTime cells are text of the form yyyy-mm-dd hh:mm:ss.mmm;
-/// Date cells yyyy-mm-dd.
-enum class ColumnType { Text, Integer, Float, Bit, DateTime, Date, Blob };
+/// Date cells yyyy-mm-dd. Decimal cells are numbers of more digits than a Float keeps, as text without
+/// zeros at the end of the fraction.
+enum class ColumnType { Text, Integer, Float, Decimal, Bit, DateTime, Date, Blob };
 
 struct Column
 {

@@ -44,6 +44,34 @@ TEST(BatchReaderTest, goLinesSplitAndTextDoesNot) {
     }
 }
 
+TEST(BatchReaderTest, whatIsNoTextIsToldWithItsPlace) {
+    const std::pair<std::string, const char*> cases[] = {
+        {std::string("a\nGO\nb\0c", 8), "line 3, byte 2: a NUL"},
+        {"a\n'Gr\xFC\xDF'", "line 2, byte 4: neither UTF-8 nor UTF-16"},
+        {"ok \xC3", "line 1, byte 4: neither"},
+        {std::string("\xFF\xFE"
+                     "a\0\n\0b",
+                     7),
+         "line 2, byte 1: half a character"},
+        {std::string("\xFE\xFF"
+                     "\0a\0\0",
+                     6),
+         "line 1, byte 3: a NUL"},
+        {std::string("\xFF\xFE"
+                     "\x3D\xD8",
+                     4),
+         "line 1, byte 1: half a surrogate pair"},
+    };
+    for (const auto& [script, problem] : cases) {
+        try {
+            split(script);
+            ADD_FAILURE() << "taken: " << problem;
+        } catch (const NoText& error) {
+            EXPECT_TRUE(std::string(error.what()).starts_with(problem)) << error.what();
+        }
+    }
+}
+
 TEST(BatchReaderTest, filesOfAnyUnicodeEncodingAreRead) {
     const std::vector<std::string> expected{"1*ä 漢/", "1*b/"};
     EXPECT_EQ(split("\xEF\xBB\xBFä 漢\nGO\nb"), expected);

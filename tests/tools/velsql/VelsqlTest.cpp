@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <thread>
 
 #include <sys/wait.h>
 
@@ -51,6 +53,12 @@ protected:
         return velsql(arguments, input);
     }
 
+    Outcome embedded(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(),
+                         {"-S", "embedded:" + folder.path().string(), "-d", "Shop"});
+        return velsql(arguments);
+    }
+
     velcro::test::TempFolder folder;
 };
 
@@ -74,7 +82,7 @@ TEST_F(VelsqlTest, rowsCountsAndErrorsStandInOrder) {
                            "(1 rows affected)\n"
                            "(1 rows affected)\n"
                            "(1 rows affected)\n"
-                           "Msg 1, Level 16, State 1: no such table: missing (1)\n"
+                           "Msg 1, Level 16, State 1, Line 7: no such table: missing (1)\n"
                            "n\ts\tf\tb\tts\n"
                            "1\tone\t0.1\t0x00FF\t2024-02-29 13:00:00.500\n"
                            "2\tNULL\tNULL\tNULL\tNULL\n"
@@ -93,7 +101,10 @@ TEST_F(VelsqlTest, sourcesRunInTheOrderOfTheCommandLine) {
 TEST_F(VelsqlTest, stopsAtTheFirstFailureWhenAsked) {
     const auto outcome = session({"-b", "-Q", "SELECT * FROM missing", "-Q", "SELECT 1 AS n"});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.out, "Msg 1, Level 16, State 1: no such table: missing (1)\n");
+    EXPECT_EQ(outcome.out, "Msg 1, Level 16, State 1, Line 1: no such table: missing (1)\n");
+    const auto script = write("late.sql", "SELECT 1 AS n\nGO\n\nPRINT 'x'\nSELECT nothing\n");
+    EXPECT_EQ(embedded({"-i", script}).out, "n\n1\nx\nMsg 207, Level 16, State 1, " + script +
+                                                ", Line 5: Invalid column name 'nothing'.\n");
 }
 
 TEST_F(VelsqlTest, wrongCommandLinesAreAnsweredWithTheUsage) {
@@ -125,7 +136,8 @@ TEST_F(VelsqlTest, aServerIsReachedThroughADriverThatWasNeverRegistered) {
         velsql({"-S", server.address(), "-d", "suite", "-U", "till"}, "PRINT\nGO\nbad\nGO\nSELECT",
                "ODBCSYSINI=" + folder.path().string());
     EXPECT_EQ(outcome.problems, "");
-    EXPECT_EQ(outcome.out, "hello\nMsg 102, Level 15, State 1: Incorrect syntax.\ns\nGröße\n");
+    EXPECT_EQ(outcome.out,
+              "hello\nMsg 102, Level 15, State 1, Line 3: Incorrect syntax.\ns\nGröße\n");
     EXPECT_EQ(outcome.status, 1);
 }
 
@@ -142,4 +154,65 @@ TEST_F(VelsqlTest, whatKeepsItFromWorkingIsToldAndNothingRuns) {
     EXPECT_EQ(refused.status, 1);
     EXPECT_NE(refused.problems.find("cannot connect to Suite on 127.0.0.1,1"), std::string::npos);
     EXPECT_EQ(refused.problems.find("TopSecret"), std::string::npos);
+}
+
+TEST_F(VelsqlTest, aScriptThatIsNoTextRunsNothing) {
+    const auto good = write("good.sql", "CREATE TABLE t (n int)");
+    const auto bad = write("bad.sql", "SELECT 1\nGO\nSELECT 'Gr\xFC\xDF"
+                                      "e'");
+    const auto outcome = embedded({"-i", good, "-i", bad});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_TRUE(outcome.problems.starts_with("velsql: " + bad + ", line 3, byte 11: neither UTF-8"))
+        << outcome.problems;
+    EXPECT_EQ(embedded({"-i", good}).status, 0) << "it must not have run before";
+    EXPECT_TRUE(velsql({"-S", "embedded:" + folder.path().string(), "-d", "Shop"}, "SELECT '\xFF'")
+                    .problems.starts_with("velsql: standard input, line 1, byte 9: "));
+}
+
+TEST_F(VelsqlTest, aFullDiskEndsItWithAMessage) {
+    const std::string command = VELSQL_PROGRAM " -S 'embedded:" + folder.path().string() +
+                                "' -d Shop -Q 'SELECT 1 AS n' -Q 'CREATE TABLE t (n int)'"
+                                " >/dev/full 2>" +
+                                folder.file("problems");
+    EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
+    EXPECT_TRUE(read("problems").starts_with("velsql: cannot write the results: No space left"))
+        << read("problems");
+    EXPECT_EQ(embedded({"-Q", "SELECT * FROM t"}).status, 1) << "nothing runs unseen after that";
+}
+
+TEST_F(VelsqlTest, anInterruptCancelsTheStatementAndEndsTheSession) {
+    // Without the shell around it, which would not hand the interrupt on.
+    const auto run = [&](const std::string& arguments) {
+        const std::string command = "echo $$ >" + folder.file("pid") +
+                                    "; exec " VELSQL_PROGRAM " " + arguments + " >" +
+                                    folder.file("out") + " 2>" + folder.file("problems");
+        return WEXITSTATUS(std::system(("sh -c '" + command + "'").c_str()));
+    };
+    const auto interrupt = [&] { kill(std::stoi(read("pid")), SIGINT); };
+    const velcro::test::TdsServer server([&](const std::string& batch) {
+        velcro::test::TdsReply reply;
+        if (batch != "stall\n") {
+            return reply.done();
+        }
+        interrupt();
+        return reply.column("n").row("1").stall();
+    });
+    const std::string cancelled = ", Line 1: The statement was cancelled.\n";
+    EXPECT_EQ(run("-S " + server.address() + " -d suite -U till -Q stall -Q next"), 1);
+    EXPECT_TRUE(read("out").ends_with(cancelled)) << read("out") << read("problems");
+
+    const auto endless =
+        write("endless.sql", "DECLARE @i int = 0 WHILE 1 = 1 SET @i = 1 - @i\nGO\nPRINT 1");
+    write("out", "");
+    std::thread other([&] {
+        while (read("out").empty()) {
+            std::this_thread::yield();
+        }
+        interrupt();
+    });
+    EXPECT_EQ(
+        run("-S embedded:" + folder.path().string() + " -d Shop -Q \"PRINT 1\" -i " + endless), 1);
+    other.join();
+    EXPECT_TRUE(read("out").ends_with(cancelled)) << read("out").substr(0, 200);
 }

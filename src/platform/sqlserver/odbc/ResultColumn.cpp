@@ -11,12 +11,28 @@ namespace {
 
 constexpr SQLULEN largestBound = 8000; // characters or bytes; no type without (max) has more
 constexpr std::size_t terminator = sizeof(char16_t);
+constexpr SQLULEN digitsOfDouble = 15; // that come back as they went in
+constexpr SQLULEN digitsOfInteger = 18;
 
 template <typename Value>
 Value readCell(const std::byte* cell) {
     Value value;
     std::memcpy(&value, cell, sizeof value);
     return value;
+}
+
+/// As a Float of the same value would be written: "12.5000" is 12.5, ".50" is 0.5.
+void tidyDecimal(std::string& text) {
+    if (const auto point = text.find('.'); point != std::string::npos) {
+        const auto last = text.find_last_not_of('0');
+        text.resize(last == point ? last : last + 1);
+        if (point == 0 || (point == 1 && text[0] == '-')) {
+            text.insert(point, "0");
+        }
+    }
+    if (text == "-0") {
+        text = "0";
+    }
 }
 
 char* putDigits(char* out, unsigned value, int count) {
@@ -74,13 +90,15 @@ void ResultColumn::choose(SQLSMALLINT sqlType, SQLULEN size, SQLSMALLINT scale, 
         return fixed(ColumnType::Float, SQL_C_DOUBLE, sizeof(double));
     case SQL_NUMERIC:
     case SQL_DECIMAL:
-        if (scale > 0) {
+        if (scale > 0 && size <= digitsOfDouble) {
             return fixed(ColumnType::Float, SQL_C_DOUBLE, sizeof(double));
         }
-        if (size <= 18) {
+        if (scale <= 0 && size <= digitsOfInteger) {
             return fixed(ColumnType::Integer, SQL_C_SBIGINT, sizeof(SQLBIGINT));
         }
-        return chooseText(size + 2, false, kind); // more digits than a number of ours holds
+        chooseText(size + 3, false, kind); // sign, point and a zero before it
+        column_.type = ColumnType::Decimal;
+        return;
     case SQL_TYPE_DATE:
         return fixed(ColumnType::Date, SQL_C_TYPE_DATE, sizeof(SQL_DATE_STRUCT));
     case SQL_TYPE_TIMESTAMP:
@@ -152,6 +170,9 @@ void ResultColumn::addFixed(const std::byte* cell, SQLLEN length, RowSetBuilder&
 void ResultColumn::addText(std::u16string_view text, RowSetBuilder& builder) {
     utf8_.clear();
     appendUtf8(text, utf8_);
+    if (column_.type == ColumnType::Decimal) {
+        tidyDecimal(utf8_);
+    }
     builder.addBytes(utf8_);
 }
 

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
+#include <thread>
 
 using namespace velcro::sql;
 
@@ -248,6 +250,38 @@ TEST_P(ContractTest, valuesCompareAndConvertAsOnTheServer) {
     };
     for (const auto& [statement, expected] : cases) {
         EXPECT_EQ(value(statement), expected) << statement;
+    }
+}
+
+TEST_P(ContractTest, aBatchThatRunsIsCancelledFromAnotherThread) {
+    std::string rows = "INSERT INTO vct_item (id) VALUES (0)";
+    for (int i = 1; i < 100; ++i) {
+        rows += ", (" + std::to_string(i) + ")";
+    }
+    connection->execute(rows);
+    const char* endless[] = {
+        "DECLARE @i int = 0 WHILE 1 = 1 SET @i = 1 - @i",
+        "SELECT COUNT_BIG(*) FROM vct_item a, vct_item b, vct_item c, vct_item d, vct_item e,"
+        " vct_item f WHERE a.id + b.id + c.id + d.id + e.id + f.id < 0",
+    };
+    for (const char* batch : endless) {
+        std::atomic<bool> ended = false;
+        std::thread other([&] {
+            while (!ended) {
+                connection->cancel();
+                std::this_thread::yield();
+            }
+        });
+        try {
+            connection->execute(batch);
+            ADD_FAILURE() << "came to an end: " << batch;
+        } catch (const SqlError& error) {
+            EXPECT_EQ(error.kind(), SqlErrorKind::Statement);
+            EXPECT_EQ(error.sqlState(), "HY008") << error.what();
+        }
+        ended = true;
+        other.join();
+        EXPECT_EQ(count(), "100") << "the connection goes on";
     }
 }
 

@@ -41,6 +41,14 @@ TdsReply answer(const std::string& batch) {
             .endTransaction()
             .done(-1, false, true);
     }
+    if (batch.starts_with("decimals of ")) {
+        return reply.decimalColumn("d", std::stoi(batch.substr(12)), 2)
+            .decimalRow(123'456'789'012'345'678)
+            .decimalRow(-50)
+            .decimalRow(1200)
+            .decimalRow(0)
+            .done(4);
+    }
     if (batch == "PRINT") {
         return reply.information(0, "printed").done();
     }
@@ -132,6 +140,21 @@ TEST_F(OdbcServerTest, printedTextIsInformation) {
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages[0].text, "printed");
     EXPECT_LT(messages[0].level, 11);
+}
+
+TEST_F(OdbcServerTest, decimalsKeepAllTheirDigits) {
+    connect();
+    for (const char* digits : {"15", "18"}) {
+        const RowSet rows = connection->query(std::string("decimals of ") + digits);
+        const char* texts[] = {"1234567890123456.78", "-0.5", "12", "0"};
+        const bool all = rows.column(0).type == ColumnType::Decimal;
+        EXPECT_EQ(all, std::string(digits) == "18") << "a short one is a plain number";
+        for (std::size_t row = all ? 0 : 1; row < std::size(texts); ++row) {
+            EXPECT_EQ(rows.text(row, 0), texts[row]);
+        }
+        EXPECT_EQ(rows.number(1, 0), -0.5);
+        EXPECT_EQ(rows.integer(2, 0), 12);
+    }
 }
 
 TEST_F(OdbcServerTest, literalsArriveNationalAndWhole) {
