@@ -3,11 +3,11 @@
 #include "application/VersionCheck.h"
 #include "data/Session.h"
 #include "screens/SysFuncGlobal.h"
+#include "ui/Events.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -81,6 +81,6 @@ bool TfrmCMN010::CheckNewVersion() {
 bool sfg_VersionDlg() {
     TfrmCMN010 form(gVersion, gSystemVersion);
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
     return form.xReturn == QLatin1String("OK");
 }

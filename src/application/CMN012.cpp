@@ -1,11 +1,11 @@
 #include "application/CMN012.h"
 
 #include "screens/Terminate.h"
+#include "ui/Events.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -55,7 +55,7 @@ void TfrmCMN012::tick() {
         return;
     }
     gauge_->setValue(sCnt_);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
     if (isVisible()) {
         Timer1_.start();
     }
@@ -69,5 +69,5 @@ void TfrmCMN012::returnToApplication() {
 void sfg_Application_ShutDown() {
     TfrmCMN012 form;
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }

@@ -12,11 +12,11 @@
 #include "screens/SysFuncGlobal.h"
 #include "screens/SysStatusBar.h"
 #include "screens/Terminate.h"
+#include "ui/Events.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPainter>
@@ -218,9 +218,9 @@ void TfrmMAIN000::Set_MainMenu(bool xEnable) {
     pnlMNUOrders->setColor(QColor(xEnable ? blue : grey));
     pnlMNUReports->setColor(QColor(xEnable ? green : grey));
     pnlMNUAdministration->setColor(QColor(xEnable ? red : grey));
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
     enableMenu(Menu::Main, xEnable);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
     sfg_SetCursor("RESET");
 }
 

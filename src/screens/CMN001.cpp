@@ -4,6 +4,7 @@
 #include "data/Session.h"
 #include "screens/SysFuncGlobal.h"
 #include "screens/Terminate.h"
+#include "ui/Events.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 #include "ui/StatusBar.h"
@@ -27,7 +28,7 @@ void showErrorForm(const QString& errorNo, const QString& message, const QString
     TfrmCMN001 form(errorNo, message, prgName, routine);
     gErrorLogMsg.clear();
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }
 
 void showErrorBox(const QString& title, const QString& text) {

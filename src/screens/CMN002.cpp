@@ -2,9 +2,9 @@
 
 #include "data/Session.h"
 #include "screens/SysFuncGlobal.h"
+#include "ui/Events.h"
 #include "ui/Modal.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -19,7 +19,7 @@ constexpr MessageLook warning{"frmCMN006", "System Warning", "warning", 0xfff2c2
 /// The screen behind is painted before the caller's next statement runs.
 void showMessage(QDialog& form) {
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #include "screens/CMN004.h"
 
 #include "screens/SysFuncGlobal.h"
+#include "ui/Events.h"
 #include "ui/Modal.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -49,6 +49,6 @@ void TfrmCMN004::choose(bool yes) {
 bool sfg_QuestionDlg(const QString& xTitle, const QString& xMessage) {
     TfrmCMN004 form(xTitle, xMessage);
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
     return form.answer();
 }

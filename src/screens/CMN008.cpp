@@ -1,9 +1,9 @@
 #include "screens/CMN008.h"
 
 #include "screens/SysFuncGlobal.h"
+#include "ui/Events.h"
 #include "ui/Modal.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -32,5 +32,5 @@ void sfg_AccessDlg(const QString& xErrorNo, const QString& xPrgName, const QStri
                    int xLeft) {
     TfrmCMN008 form(xErrorNo, xPrgName, xRoutine, xLeft);
     velcro::ui::runModal(form);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }

@@ -4,6 +4,7 @@
 #include "data/Errors.h"
 #include "platform/seat/OnScreenKeyboard.h"
 #include "platform/seat/Programs.h"
+#include "ui/Events.h"
 #include "ui/KeyCap.h"
 
 #include <QAbstractButton>
@@ -52,7 +53,7 @@ void sfg_SetCursor(const QString& xType) {
     } else if (type == QLatin1String("SQL")) {
         setCursor(Qt::BusyCursor);
     }
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }
 
 int sfg_SetFormTop(const QWidget& frm, int xOffSet) {

@@ -1,8 +1,8 @@
 #include "screens/SysStatusBar.h"
 
 #include "data/DataSYS.h"
+#include "ui/Events.h"
 
-#include <QApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -43,7 +43,7 @@ void sfg_DisplayBar(const QString& xType, const QString& xMsg, StatusBar& Status
     gStatusType.at(xPanel) = xType;
     StatusBar.setSpokenText(index, xMsg);
     StatusBar.setPanelStyle(index, psOwnerDraw);
-    QApplication::processEvents();
+    velcro::ui::pumpEvents();
 }
 
 void sfg_ResetStatusBar(StatusBar& StatusBar, int xPanel) {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -27,6 +28,22 @@ void guarded(Body&& body) {
     }
 }
 
+/// Marks a handler as running; it may delete the connection that it is called through.
+class Entered
+{
+public:
+    explicit Entered(std::shared_ptr<bool> running)
+        : running_(std::move(running)) {
+        *running_ = true;
+    }
+    ~Entered() { *running_ = false; }
+    Entered(const Entered&) = delete;
+    Entered& operator=(const Entered&) = delete;
+
+private:
+    std::shared_ptr<bool> running_;
+};
+
 /// Calls a handler: a member function of the receiver or a callable, that takes all arguments or
 /// none.
 template <typename Receiver, typename Handler, typename... Arguments>
@@ -44,14 +61,20 @@ void callHandler([[maybe_unused]] Receiver* receiver, Handler& handler, Argument
     }
 }
 
-/// QObject::connect for handlers, as callHandler takes them.
+/// QObject::connect for handlers, as callHandler takes them. One that is running, and that runs a
+/// modal form or pumps, is not entered a second time.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectHandler(const Sender* sender, Signal signal, Receiver* receiver,
                                        Handler handler) {
-    return QObject::connect(sender, signal, receiver,
-                            [receiver, handler](auto&&... arguments) mutable {
-                                guarded([&] { callHandler(receiver, handler, arguments...); });
-                            });
+    return QObject::connect(
+        sender, signal, receiver,
+        [receiver, handler, running = std::make_shared<bool>(false)](auto&&... arguments) mutable {
+            if (*running) {
+                return;
+            }
+            const Entered entered(running);
+            guarded([&] { callHandler(receiver, handler, arguments...); });
+        });
 }
 
 } // namespace velcro::ui

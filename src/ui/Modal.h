@@ -12,6 +12,10 @@ namespace velcro::ui {
 /// Shows the form modally and returns its result code. The caller owns the form.
 int runModal(QDialog& dialog);
 
+/// Shows a form over work that goes on below it and pumps; it has no loop of its own.
+void showOverWork(QDialog& dialog);
+void hideOverWork(QDialog& dialog);
+
 /// A message box with the single button OK.
 void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
                     const QString& text);

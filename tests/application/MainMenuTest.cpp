@@ -7,6 +7,7 @@
 #include "screens/ImageLists.h"
 #include "support/Desk.h"
 #include "support/ScriptedUser.h"
+#include "support/TypedAhead.h"
 #include "ui/Handler.h"
 
 #include <QApplication>
@@ -136,6 +137,18 @@ TEST_F(MainMenuTest, keysAndClicksLeadWhereTheMenuSays) {
     press(Qt::Key_Escape);
     EXPECT_EQ(state(), "main ") << "no question on the way back";
     EXPECT_EQ(colours(), (std::vector<QRgb>{blue, blue, green, red}));
+}
+
+TEST_F(MainMenuTest, twoMenuKeysWithoutAPauseOpenOneMenu) {
+    show();
+    velcro::test::queueKey(Qt::Key_F7);
+    velcro::test::queueKey(Qt::Key_F8);
+    velcro::test::takeQueue();
+    EXPECT_EQ(state(), "reports ");
+    velcro::test::queueKey(Qt::Key_Escape);
+    velcro::test::queueKey(Qt::Key_F8);
+    velcro::test::takeQueue();
+    EXPECT_EQ(state(), "configuration ");
 }
 
 TEST_F(MainMenuTest, codeTablesOpenByClickOnlyAndCoverTheMenu) {

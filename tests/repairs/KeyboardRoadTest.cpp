@@ -1,8 +1,12 @@
 // Keys that come faster than the eye, and what stands under the windows they open.
 #include "repairs/BookingDesk.h"
 #include "repairs/CRO100.h"
+#include "support/TypedAhead.h"
 
 using velcro::test::Desk;
+using velcro::test::queueKey;
+using velcro::test::queueText;
+using velcro::test::takeQueue;
 
 namespace {
 
@@ -73,4 +77,64 @@ TEST_F(KeyboardRoadTest, aScreenIsOneWindowOfTheSystemAlsoBelowAnother) {
                 << control->objectName().toStdString();
         }
     });
+}
+
+TEST_F(KeyboardRoadTest, deletePressedThreeTimesOpensOneDeleteScreen) {
+    int opened = 0;
+    inRegister([&] {
+        user.expectForm(headerTitle, [&] {
+            takeQueue();
+            ++opened;
+            user.press(Qt::Key_Escape);
+        });
+        for (int i = 0; i < 3; ++i) {
+            queueKey(Qt::Key_Delete);
+        }
+        takeQueue();
+    });
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(KeyboardRoadTest, escapeTypedAheadClosesTheScreenThatComesUpNotTheOneBelow) {
+    inRegister([&] {
+        for (const auto opens : {Qt::Key_Delete, Qt::Key_Insert}) {
+            queueKey(opens);
+            queueKey(Qt::Key_Escape);
+            takeQueue();
+            EXPECT_TRUE(user.form().isVisible());
+            EXPECT_EQ(QApplication::activeModalWidget(), &user.form());
+        }
+    });
+}
+
+TEST_F(KeyboardRoadTest, datesAndCodesTypedWithoutAPauseLoseNoLetter) {
+    const QStringList edits = {"edTranDate", "edReceiveDate", "edAccount", "edName", "edAddress1"};
+    // What is in the edits after an order was begun with these keys, ahead or one after the other.
+    const auto booked = [&](const QString& ahead, const QString& one) {
+        QStringList seen;
+        inRegister([&] {
+            user.expectForm(headerTitle, [&] {
+                takeQueue();
+                for (const QChar letter : one) {
+                    queueText(letter);
+                    takeQueue();
+                }
+                for (const auto& edit : edits) {
+                    seen << user.sees(edit);
+                }
+                user.press(Qt::Key_Escape);
+            });
+            queueKey(Qt::Key_Insert);
+            queueText(ahead);
+            takeQueue();
+        });
+        return seen;
+    };
+    const QString keys = "2026/01/09\r\r\rC00001\rAB-77\rAB-78\r";
+    const auto seen = booked(keys, {});
+    EXPECT_EQ(seen, booked({}, keys));
+    ASSERT_EQ(seen.size(), edits.size());
+    EXPECT_EQ(seen[2], "C00001");
+    EXPECT_TRUE(seen[3].contains("AB-77") && seen[4].contains("AB-78"))
+        << seen.join('|').toStdString();
 }

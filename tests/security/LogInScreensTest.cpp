@@ -6,6 +6,7 @@
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
+#include "support/TypedAhead.h"
 #include "ui/Handler.h"
 
 #include <QComboBox>
@@ -146,6 +147,23 @@ TEST_F(LogInScreensTest, anExpiredPasswordMustBeChangedAndARefusalLeavesTheScree
         user.click("btnOK");
     });
     EXPECT_EQ(form.xReturn, "OK") << "still good on the expiry date itself";
+}
+
+TEST_F(LogInScreensTest, aSecondEnterDoesNotRunTheLogInWithinTheLogIn) {
+    TfrmCMN999 form;
+    user.expectForm("Change System Password", [&] {
+        velcro::test::takeQueue();
+        EXPECT_EQ(user.message(), "Passwords cannot be Blank") << "the second Enter came here";
+        user.click("btnCancel");
+    });
+    user.workIn(form, [&] {
+        user.typeInto("edUserCode", "EXPIRED");
+        user.typeInto("edUserPswd", "EXPIRED");
+        velcro::test::queueText("\r\r");
+        velcro::test::takeQueue();
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(form.xReturn, "CANCEL");
 }
 
 TEST_F(LogInScreensTest, aBlankPasswordDateUnderExpiryIsAFaultAndTheScreenStays) {
