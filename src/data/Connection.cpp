@@ -61,7 +61,8 @@ ConnectionSettings parseConnectionString(const QString& text) {
     };
     ConnectionSettings result;
     QString rest = text;
-    result.server = takeDriverText(rest).toStdString();
+    const std::string driver = takeDriverText(rest).toStdString();
+    result.server = driver;
     for (const QString& part : rest.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const auto equals = part.indexOf(QLatin1Char('='));
         const auto found = settings.find(part.left(equals).trimmed().toLower());
@@ -71,6 +72,10 @@ ConnectionSettings parseConnectionString(const QString& text) {
                                "Host, database, user and password must not hold a \";\"."));
         }
         found->second(result, part.mid(equals + 1));
+    }
+    // A second server in front of it does not hide it.
+    if (!driver.empty() && !result.server.starts_with("odbc:")) {
+        result.server = driver;
     }
     return result;
 }

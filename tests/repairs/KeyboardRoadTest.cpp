@@ -130,7 +130,7 @@ TEST_F(KeyboardRoadTest, datesAndCodesTypedWithoutAPauseLoseNoLetter) {
         });
         return seen;
     };
-    const QString keys = "2026/01/09\r\r\rC00001\rAB-77\rAB-78\r";
+    const QString keys = "2026/01/09\r\r\r\rC00001\rAB-77\rAB-78\r";
     const auto seen = booked(keys, {});
     EXPECT_EQ(seen, booked({}, keys));
     ASSERT_EQ(seen.size(), edits.size());

@@ -153,7 +153,7 @@ TEST_F(LogInScreensTest, aSecondEnterDoesNotRunTheLogInWithinTheLogIn) {
     TfrmCMN999 form;
     user.expectForm("Change System Password", [&] {
         velcro::test::takeQueue();
-        EXPECT_EQ(user.message(), "Passwords cannot be Blank") << "the second Enter came here";
+        EXPECT_EQ(user.focus(), "edPswd2") << "the second Enter came here";
         user.click("btnCancel");
     });
     user.workIn(form, [&] {

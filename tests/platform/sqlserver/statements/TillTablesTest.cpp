@@ -98,7 +98,8 @@ struct ColumnText
     /// As the catalogue has it.
     std::string told() const {
         const bool isNumber = !value.empty() && value.front() != '\'';
-        return name + "|" + type + "|" + (nullable ? "YES" : "NO") + "|" +
+        return name + "|" + type + (type == "sql_variant" ? "(0)" : "") + "|" +
+               (nullable ? "YES" : "NO") + "|" +
                (value.empty() ? "NULL"
                 : isNumber    ? "((" + value + "))"
                               : "(" + value + ")");
