@@ -144,7 +144,7 @@ std::optional<std::int64_t> NumberSeries::runToEnd(sqlite3_stmt* statement) {
     }
     std::optional<tsql::Fault> fault;
     if (code != SQLITE_DONE) {
-        fault = tsql::storageFault(database_.get(), code);
+        fault = this->fault(code);
     }
     sqlite3_reset(statement);
     if (fault) {
@@ -188,8 +188,22 @@ void NumberSeries::waitForDisk(bool wait) {
 
 void NumberSeries::require(int code) {
     if (code != SQLITE_OK) {
-        throw tsql::storageFault(database_.get(), code);
+        throw fault(code);
     }
+}
+
+/// Damage here is none of the database's own, which can be used on.
+tsql::Fault NumberSeries::fault(int code) const {
+    const int kind = code & 0xFF;
+    if (kind != SQLITE_CORRUPT && kind != SQLITE_NOTADB) {
+        return tsql::storageFault(database_.get(), code);
+    }
+    const std::string_view file = sqlite3_db_filename(database_.get(), "main");
+    return tsql::Fault({824, 16, 2, 0,
+                        "The document numbers in the file '" +
+                            std::string(file.substr(file.find_last_of("/\\") + 1)) +
+                            "' are damaged: " + sqlite3_errmsg(database_.get()) +
+                            ". The database beside it is not."});
 }
 
 void NumberSeries::open(const std::filesystem::path& database) {

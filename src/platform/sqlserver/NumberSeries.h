@@ -4,6 +4,7 @@
 
 #include "tsql/catalogue/SqliteHandle.h"
 #include "tsql/session/NativeProcedure.h"
+#include "tsql/values/Errors.h"
 
 #include <map>
 #include <optional>
@@ -44,6 +45,7 @@ private:
     void open(const std::filesystem::path& database);
     tsql::StatementHandle prepare(const char* sql);
     void require(int code);
+    tsql::Fault fault(int code) const;
     std::int64_t next(const Key& key, tsql::NativeCaller& caller);
     std::optional<std::int64_t> take(sqlite3_stmt* statement, const Key& key, std::int64_t after);
     std::optional<std::int64_t> runToEnd(sqlite3_stmt* statement);

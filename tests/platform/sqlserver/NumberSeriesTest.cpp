@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 #include <set>
 
 #include <unistd.h>
@@ -79,6 +80,27 @@ TEST(NumberSeriesTest, numbersSurviveARollbackAndBeginAfterTheKnownOne) {
     EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01'"), "error 201");
     EXPECT_EQ(database.answer("EXEC VELMARA_GENERATE_NUMBER '01', 'B', 'C', 'D', 'E'"),
               "error 8144");
+}
+
+TEST(NumberSeriesTest, damageIsToldAndTheDatabaseIsUsedOn) {
+    EmbeddedDatabase database;
+    database.connection().execute(orders);
+    const std::string numbers = database.folder().file("Shop.numbers");
+    std::ofstream(numbers) << std::string(5000, 'x');
+    try {
+        database.connection().execute(draw);
+        FAIL() << "a number was drawn from a damaged file";
+    } catch (const velcro::sql::SqlError& error) {
+        EXPECT_EQ(error.number(), 824);
+        EXPECT_NE(std::string(error.what()).find("numbers in the file 'Shop.numbers' are damaged"),
+                  std::string::npos)
+            << error.what();
+    }
+    EXPECT_EQ(fs::file_size(numbers), 5000U);
+    EXPECT_EQ(database.answer("INSERT INTO Orders VALUES (7) SELECT CRONo FROM Orders"), "(1) 7");
+    // A file that was taken out of the way is made anew.
+    fs::remove(numbers);
+    EXPECT_EQ(database.answer(draw), "1");
 }
 
 TEST(NumberSeriesTest, anOrderWaitsForTheDiskOnceAndItsNumberWithIt) {
