@@ -24,6 +24,11 @@ const TableDef* Session::PlaceNames::table(const ObjectName& name) const {
     return elsewhere || !ownSchema ? nullptr : session_.catalogue_.table(name.name);
 }
 
+const RoutineDef* Session::PlaceNames::view(const ObjectName& name) const {
+    const TableDef* found = table(name);
+    return found != nullptr && found->isView ? session_.catalogue_.view(found->name) : nullptr;
+}
+
 Type Session::PlaceNames::variable(std::string_view name) const {
     const FrameVariable* found = place_.frame.find(name);
     if (found == nullptr) {

@@ -13,6 +13,7 @@ public:
     PlaceNames(const Session& session, const Place& place);
 
     const TableDef* table(const ObjectName& name) const override;
+    const RoutineDef* view(const ObjectName& name) const override;
     Type variable(std::string_view name) const override;
     const Type* parameter(std::string_view name) const override;
     bool identityInsert(const TableDef& table) const override;

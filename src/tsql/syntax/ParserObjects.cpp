@@ -165,7 +165,7 @@ void Descent::requireFirst(std::string_view what) {
     }
 }
 
-// view := VIEW object ['(' names ')'] AS select [WITH CHECK OPTION]
+// view := VIEW object ['(' names ')'] AS select
 CreateView Descent::createView(DefineMode mode, std::uint32_t begin) {
     requireFirst("CREATE VIEW");
     CreateView view;

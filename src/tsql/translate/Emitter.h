@@ -199,6 +199,8 @@ private:
     void requireSortable(const Type& type) const;
     /// Never more than one: an aggregate over all rows, or no table at all.
     static bool givesOneRow(const QueryBody& body);
+    /// Its rows are groups of rows.
+    static bool groups(const SelectCore& select);
     std::string orderKey(const Expr& expr, const Core& core, const Scope& scope);
     std::string limitText(const SelectCore* select, const Query& query, const Scope& scope);
     std::string topText(const Expr& top, const Scope& scope);
@@ -256,9 +258,21 @@ private:
                              const std::string& from);
     std::string removeText(const TableDef& table, const std::string& alias,
                            const std::string& from);
+    std::string changedText(const std::vector<TableSourcePtr>& from, const std::string& target,
+                            Scope& scope);
     /// Adds the target to a FROM that does not name it.
     const Source& targetOf(const ObjectName& target, Scope& scope, std::string& from);
     static std::string returningVariables(const std::vector<ResultColumn>& variables);
+
+    // EmitterViews.cpp
+    std::string emitView(const RoutineDef& view, const TableDef& shown, std::string alias,
+                         Scope& scope);
+    Source changedView(const RoutineDef& view, const TableDef& shown, std::string alias,
+                       std::string& rows);
+    const SelectCore& changeableRows(const Select& select, const std::string& view) const;
+    const ColumnDef& changedColumn(const Source& target, const std::string& name) const;
+    /// The table that rows are inserted into, and its columns for those named.
+    const TableDef& insertTarget(const Insert& statement, std::vector<std::string>& names);
 
     // EmitterMerge.cpp
     Translation mergePart(const Merge& statement, const MergeWhen& when);
@@ -273,6 +287,7 @@ private:
     std::vector<Bind> binds_;
     std::vector<CommonTableInfo> commonTables_;
     std::vector<GroupCheck> groups_;
+    std::string changed_;  // the table of the FROM at hand whose rows are changed, as it is called
     Recursion recursion_;  // of the common table whose query comes next
     Part* part_ = nullptr; // that the text at hand is in
     int level_ = 0;        // how many expressions stand around it there

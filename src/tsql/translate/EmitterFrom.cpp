@@ -78,6 +78,11 @@ std::string Emitter::emitSource(const NamedTable& named, Scope& scope) {
         return quoteName(common->name) + " AS " + quoteName(alias);
     }
     const TableDef* table = names_.table(named.name);
+    const bool changes =
+        !changed_.empty() && (sameName(alias, changed_) || sameName(named.name.name, changed_));
+    if (const RoutineDef* changed = changes ? names_.view(named.name) : nullptr) {
+        return emitView(*changed, *table, alias, scope);
+    }
     const SystemView* view =
         table == nullptr ? systemView(named.name.schema, named.name.name) : nullptr;
     if (view == nullptr) {

@@ -56,12 +56,13 @@ std::string Emitter::insertHead(const TableDef& table,
 }
 
 Translation Emitter::insert(const Insert& statement) {
-    const TableDef& table = requireTable(statement.table);
+    std::vector<std::string> names;
+    const TableDef& table = insertTarget(statement, names);
     std::string text = withText(statement.with, statement.hints);
     if (statement.rows.empty() && !statement.query) {
         text += "INSERT INTO " + quoteName(table.name) + " DEFAULT VALUES";
     } else {
-        const auto columns = insertColumns(statement.columns, table);
+        const auto columns = insertColumns(names, table);
         text += insertHead(table, columns);
         text += statement.query ? insertQuery(*statement.query, table, columns)
                                 : insertRows(statement, table, columns);
@@ -123,8 +124,9 @@ std::string Emitter::insertQuery(const Query& rows, const TableDef& table,
 }
 
 Translation Emitter::insertBound(const Insert& statement, std::span<const ResultColumn> given) {
-    const TableDef& table = requireTable(statement.table);
-    const auto columns = insertColumns(statement.columns, table);
+    std::vector<std::string> names;
+    const TableDef& table = insertTarget(statement, names);
+    const auto columns = insertColumns(names, table);
     if (given.size() != columns.size()) {
         raise(213, {}, line_);
     }

@@ -21,12 +21,6 @@ bool isAggregate(const Expr& expr) {
            name == "MIN" || name == "MAX" || name == "STRING_AGG";
 }
 
-bool groups(const SelectCore& select) {
-    return !select.groupBy.empty() || select.having ||
-           std::any_of(select.items.begin(), select.items.end(),
-                       [](const SelectItem& item) { return isAggregate(*item.expr); });
-}
-
 std::string columnName(const SelectItem& item) {
     const auto* reference = std::get_if<ColumnRef>(&item.expr->node);
     if (!item.alias.empty() || reference == nullptr) {
@@ -36,6 +30,12 @@ std::string columnName(const SelectItem& item) {
 }
 
 } // namespace
+
+bool Emitter::groups(const SelectCore& select) {
+    return !select.groupBy.empty() || select.having ||
+           std::any_of(select.items.begin(), select.items.end(),
+                       [](const SelectItem& item) { return isAggregate(*item.expr); });
+}
 
 bool Emitter::givesOneRow(const QueryBody& body) {
     const auto* select = std::get_if<SelectCore>(&body.node);

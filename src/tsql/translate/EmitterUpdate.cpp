@@ -15,7 +15,7 @@ std::string Emitter::assignedValue(const Assignment& assignment, const ColumnDef
         return rowValue(*assignment.value, *target.table, column, scope);
     }
     const auto op = static_cast<BinaryOp>(static_cast<int>(assignment.op) - 1);
-    Fragment old = columnFragment(target, {column.name, column.type});
+    Fragment old = columnFragment(target, {assignment.column.back(), column.type});
     return stored(arithmetic(op, std::move(old), valueOf(*assignment.value, scope)), *target.table,
                   column);
 }
@@ -27,10 +27,7 @@ Emitter::Changes Emitter::changes(const std::vector<Assignment>& set, const Sour
         if (assignment.column.empty()) {
             raiseUnsupported("SET of a variable without a column in an UPDATE", line_);
         }
-        const ColumnDef* column = target.table->column(assignment.column.back());
-        if (column == nullptr) {
-            raise(207, {assignment.column.back()}, line_);
-        }
+        const ColumnDef* column = &changedColumn(target, assignment.column.back());
         if (column->identity) {
             raise(8102, {column->name}, line_);
         }
@@ -57,14 +54,15 @@ std::string Emitter::returningVariables(const std::vector<ResultColumn>& variabl
 
 Translation Emitter::update(const Update& statement) {
     const std::string with = withText(statement.with, statement.hints);
-    if (statement.from.empty() && with.empty()) {
+    const bool plain = statement.from.empty() && names_.view(statement.target) == nullptr;
+    if (plain && with.empty()) {
         return updatePlain(statement, requireTable(statement.target));
     }
     if (!statement.output.empty() || statement.top) {
         raiseUnsupported("OUTPUT or TOP in an UPDATE with FROM", line_);
     }
     Scope scope;
-    std::string from = fromText(statement.from, scope);
+    std::string from = changedText(statement.from, statement.target.name, scope);
     const Source& target = targetOf(statement.target, scope, from);
     if (statement.where) {
         from += " WHERE " + conditionOf(*statement.where, scope);
@@ -105,15 +103,19 @@ Translation Emitter::updatePlain(const Update& statement, const TableDef& table)
 const Source& Emitter::targetOf(const ObjectName& target, Scope& scope, std::string& from) {
     const Source* found = scope.source(target.name);
     for (const auto& source : scope.sources()) {
-        const bool same = source.table != nullptr && sameName(source.table->name, target.name);
+        const bool stored = source.table != nullptr && source.view.empty();
+        const bool same = sameName(stored ? source.table->name : source.view, target.name);
         found = found == nullptr && same ? &source : found;
     }
     if (found == nullptr) {
         const TableDef& table = requireTable(target);
-        found = &scope.add(tableSource(table, table.name));
-        from += (from.empty() ? " FROM " : " JOIN ") + quoteName(table.name);
+        const RoutineDef* view = names_.view(target);
+        from += from.empty() ? " FROM " : " JOIN ";
+        from += view != nullptr ? emitView(*view, table, table.name, scope)
+                                : quoteName(scope.add(tableSource(table, table.name)).alias);
+        found = &scope.sources().back();
     }
-    if (found->table == nullptr) {
+    if (found->table == nullptr || found->table->isView) {
         raiseUnsupported("a change of rows through " + target.name, line_);
     }
     return *found;
@@ -148,9 +150,12 @@ std::string Emitter::removeText(const TableDef& table, const std::string& alias,
 Translation Emitter::remove(const Delete& statement) {
     const std::string with = withText(statement.with, statement.hints);
     Scope scope;
-    std::string from = fromText(statement.from, scope);
-    const bool plain = statement.from.empty() && !statement.top;
+    std::string from = changedText(statement.from, statement.target.name, scope);
     const Source& target = targetOf(statement.target, scope, from);
+    const bool plain = statement.from.empty() && !statement.top && target.view.empty();
+    if (!statement.output.empty() && !target.view.empty()) {
+        raiseUnsupported("OUTPUT of a change through a view", line_);
+    }
     std::string where;
     if (statement.where) {
         where = " WHERE " + conditionOf(*statement.where, scope);

@@ -17,6 +17,8 @@ public:
     /// Stored, temporary and variable tables and views; null when there is none. Names that point
     /// into another database are null too.
     virtual const TableDef* table(const ObjectName& name) const = 0;
+    /// What a view was made from; null when the name is none of a view.
+    virtual const RoutineDef* view(const ObjectName& name) const = 0;
     /// 137 when it is not declared.
     virtual Type variable(std::string_view name) const = 0;
     /// Null when the caller bound none of that name.

@@ -18,6 +18,7 @@ struct SourceColumn
 {
     std::string name;
     Type type;
+    std::string shown = {}; // of a view's column: the table's column that it shows
 };
 
 /// One table of a FROM.
@@ -26,6 +27,7 @@ struct Source
     std::string alias; // what qualifies its columns: the alias, else the table's own name
     std::vector<SourceColumn> columns;
     const TableDef* table = nullptr; // set for stored tables alone
+    std::string view = {};           // of a view through which rows are changed: its name
 };
 
 /// A common table that names itself, and how often it may; blank for one that does not.

@@ -319,6 +319,19 @@ constexpr Row rows[] = {
     {4145, 15, 1,
      "An expression of non-boolean type specified in a context where a condition is expected, near "
      "'%1'."},
+    {4403, 16, 1,
+     "Cannot update the view or function '%1' because it contains aggregates, or a DISTINCT or "
+     "GROUP "
+     "BY clause, or PIVOT or UNPIVOT operator."},
+    {4405, 16, 1,
+     "View or function '%1' is not updatable because the modification affects multiple base "
+     "tables."},
+    {4406, 16, 1,
+     "Update or insert of view or function '%1' failed because it contains a derived or constant "
+     "field."},
+    {4426, 16, 1, "View '%1' is not updatable because the definition contains a UNION operator."},
+    {4436, 16, 1,
+     "UNION ALL view '%1' is not updatable because a partitioning column was not found."},
     {4701, 16, 1,
      "Cannot find the object \"%1\" because it does not exist or you do not have permissions."},
     {4901, 16, 1,

@@ -147,6 +147,49 @@ TEST_F(EmbeddedStatementsTest, rowsAreChanged) {
     });
 }
 
+TEST_F(EmbeddedStatementsTest, rowsAreChangedThroughViewsOfOneTable) {
+    for (const char* view : {
+             "CREATE VIEW Firm1 AS SELECT RecID, CRONo AS No, Qty, CRONo + '?' AS Mark FROM Orders"
+             " WHERE CO = '01'",
+             "CREATE VIEW Few (Id, Number, Pieces) AS SELECT T.RecID, No, T.Qty FROM Firm1 T"
+             " WHERE T.Qty < 100",
+             "CREATE VIEW Everything AS SELECT * FROM Codes",
+             "CREATE VIEW Joined AS SELECT O.CRONo, C.Text FROM Orders O JOIN Codes C ON C.Code = "
+             "O.CRONo",
+             "CREATE VIEW Grouped AS SELECT CO, COUNT(*) AS N FROM Orders GROUP BY CO",
+             "CREATE VIEW Twice AS SELECT CO FROM Orders UNION ALL SELECT CO FROM Codes",
+         }) {
+        ASSERT_EQ(database_.answer(view), "(-1)") << view;
+    }
+    expectRows({
+        {"UPDATE Firm1 SET Qty = Qty + 1, No = 'A' + Mark WHERE No = 'a1 '", "(1)"},
+        {"SELECT CRONo, Qty FROM Orders ORDER BY RecID", "AA1?|6;b2|0;C[3]%|7"},
+        {"UPDATE Firm1 SET Qty = 9 WHERE No = 'C[3]%'", "(0)"},
+        {"UPDATE V SET Pieces += '10' FROM Few V JOIN Codes C ON C.Code = 'A1' WHERE V.Id = 2",
+         "(1)"},
+        {"UPDATE Few SET Pieces = Pieces * 100 UPDATE Few SET Pieces = 1", "(2) (0)"},
+        {"SELECT Qty FROM Orders ORDER BY RecID", "600;1000;7"},
+        {"UPDATE Orders SET Qty = 5 FROM Orders O JOIN Joined J ON J.CRONo = 'x' OR O.RecID = 3",
+         "(0)"},
+        {"INSERT INTO Everything (Code, CO) VALUES ('N', '03'), ('M', '03')", "(2)"},
+        {"INSERT INTO Everything VALUES ('04', 'Q', 'text')", "(1)"},
+        {"DELETE FROM Everything WHERE Code = 'm' DELETE TOP (1) FROM Everything WHERE CO = '01'",
+         "(1) (1)"},
+        {"DELETE E FROM Everything E JOIN Codes C ON C.Code = E.Code WHERE C.CO = '04'", "(1)"},
+        {"SELECT COUNT(*) FROM Codes", "2"},
+        {"UPDATE Firm1 SET Mark = 'x'", "error 4406"},
+        {"UPDATE Firm1 SET CRONo = 'x'", "error 207"},
+        {"INSERT INTO Firm1 (No, Mark) VALUES ('x', 'y')", "error 4406"},
+        {"INSERT INTO Firm1 (No) VALUES ('x')", "error 515"},
+        {"UPDATE Few SET Number = '012345678901234567890'", "error 2628"},
+        {"UPDATE Grouped SET CO = 'x'", "error 4403"},
+        {"DELETE FROM Joined", "error 4405"},
+        {"DELETE FROM Twice", "error 4436"},
+        {"DELETE FROM Firm1", "(2)"},
+        {"SELECT CRONo FROM Orders", "C[3]%"},
+    });
+}
+
 TEST_F(EmbeddedStatementsTest, refusalsBearTheServersNumbers) {
     expectRows({
         {"SELECT nope FROM Orders", "error 207"},
