@@ -1,9 +1,9 @@
 #include "data/FailureFile.h"
 
 #include "platform/seat/Folders.h"
+#include "platform/seat/PrivateFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -22,11 +22,8 @@ QString withoutPasswords(QString text) {
 void writeFailureFile(const QString& name, const QString& text) {
     const QString path = velcro::seat::nativePath(name);
     QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    const QByteArray bytes = withoutPasswords(text).toUtf8();
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-        !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
-        file.write(bytes) != bytes.size()) {
-        qWarning("%s: %s", qPrintable(path), qPrintable(file.errorString()));
+    QString reason;
+    if (!velcro::seat::replaceFile(path, withoutPasswords(text).toUtf8(), &reason)) {
+        qWarning("%s: %s", qPrintable(path), qPrintable(reason));
     }
 }

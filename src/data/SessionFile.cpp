@@ -12,10 +12,10 @@ QString section() {
     return "vel" + gModCode.trimmed();
 }
 
-// What cannot be read is forgotten: the file holds nothing that the user could not choose again.
+// What cannot be read is forgotten, and a link is not followed: the file holds nothing that the user could not choose again.
 velcro::seat::IniFile readFile() {
     const QString path = sessionFileName();
-    if (!QFileInfo::exists(path)) {
+    if (!QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
         return {};
     }
     try {

@@ -125,6 +125,14 @@ TEST_F(RunBatchTest, theFailureFileHoldsTheLastFailureAloneForItsOwner) {
         gData->vel_ExecSQL(1);
     }
     EXPECT_EQ(file("SQL/SQLError-Velmara.TXT"), "UPDATE B ;");
+    const QString path = gEXEPath + "SQL/SQLError-Velmara.TXT";
+    QFile elsewhere(gEXEPath + "elsewhere");
+    ASSERT_TRUE(elsewhere.open(QIODevice::WriteOnly) && QFile::remove(path));
+    ASSERT_TRUE(QFile::link(elsewhere.fileName(), path));
+    sfg_AddSQL("UPDATE C", "NEW");
+    gData->vel_ExecSQL(1);
+    EXPECT_EQ(file("SQL/SQLError-Velmara.TXT"), "UPDATE C ;");
+    EXPECT_EQ(elsewhere.size(), 0) << "a link in its place is not followed";
     EXPECT_FALSE(QFile::permissions(gEXEPath + "SQL/SQLError-Velmara.TXT")
                      .testAnyFlags(QFile::ReadOther | QFile::ReadGroup));
 }

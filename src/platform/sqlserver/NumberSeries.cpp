@@ -209,6 +209,7 @@ tsql::Fault NumberSeries::fault(int code) const {
 void NumberSeries::open(const std::filesystem::path& database) {
     auto file = database;
     file.replace_extension(".numbers");
+    tsql::makeForOwnerAlone(file);
     sqlite3* raw = nullptr;
     const auto text = file.u8string();
     const int code =

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <fstream>
 #include <optional>
 #include <system_error>
 #include <thread>
@@ -136,6 +137,9 @@ void giveRightsToLog(const fs::path& path) {
 }
 
 DatabaseFile openFile(const fs::path& path, int flags) {
+    if ((flags & SQLITE_OPEN_CREATE) != 0) {
+        makeForOwnerAlone(path);
+    }
     giveRightsToLog(path);
     DatabaseFile file{path, nullptr, (flags & SQLITE_OPEN_READONLY) != 0};
     sqlite3* raw = nullptr;
@@ -151,6 +155,14 @@ DatabaseFile openFile(const fs::path& path, int flags) {
 }
 
 } // namespace
+
+void makeForOwnerAlone(const fs::path& file) {
+    std::error_code error;
+    if (!fs::exists(file, error)) {
+        std::ofstream(file, std::ios::app).close();
+        fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, error);
+    }
+}
 
 int useWriteAheadLog(sqlite3* database) {
     // The switch itself does not wait for a lock, whatever the time-out says.

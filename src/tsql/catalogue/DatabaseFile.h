@@ -32,6 +32,10 @@ struct DatabaseFile
 /// 5172 the file is no database, 1222 another process keeps it locked.
 DatabaseFile openDatabaseFile(const DatabaseSettings& settings);
 
+/// Makes a file that is missing, empty and for its owner alone, before SQLite would make it for
+/// everybody; the logs beside it get its rights. What fails here is told when the file is opened.
+void makeForOwnerAlone(const std::filesystem::path& file);
+
 /// Turns the write-ahead log on; two processes that meet a new file wait for each other. Gives
 /// SQLite's result code.
 int useWriteAheadLog(sqlite3* database);

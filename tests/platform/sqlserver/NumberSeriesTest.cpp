@@ -10,6 +10,7 @@
 #include <fstream>
 #include <set>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using velcro::test::ChildProcess;
@@ -193,4 +194,23 @@ TEST(NumberSeriesTest, processesTakeDifferentNumbersWithoutAGapAlsoWhenSomeAreKi
     EXPECT_EQ(drawn.size(), static_cast<std::size_t>(processes * each));
     EXPECT_EQ(*drawn.rbegin(), processes * each) << "one was left out";
     EXPECT_EQ(takenOrder(*suite(path)), std::to_string(processes * each + 1));
+}
+
+TEST(NumberSeriesTest, databaseAndNumbersAreForTheirOwnerAlone) {
+    const mode_t before = umask(0022);
+    const EmbeddedDatabase database;
+    EXPECT_EQ(database.answer("CREATE TABLE SYSNumbers (CO nvarchar(10), Branch nvarchar(10),"
+                              " ModCode nvarchar(6), TxTp nvarchar(12), Number int)"),
+              "(-1)");
+    EXPECT_EQ(database.answer(draw), "1");
+    umask(before);
+    std::set<std::string> kinds;
+    for (const auto& entry : fs::directory_iterator(database.folder().path())) {
+        kinds.insert(entry.path().extension().string());
+        EXPECT_EQ(entry.status().permissions() & (fs::perms::group_all | fs::perms::others_all),
+                  fs::perms::none)
+            << entry.path();
+    }
+    EXPECT_TRUE(kinds.contains(".sqlite") && kinds.contains(".sqlite-wal") &&
+                kinds.contains(".numbers"));
 }
