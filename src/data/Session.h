@@ -59,7 +59,7 @@ inline QString gBDActive, gBDDeviceCode, gBDDeviceName; // fingerprint reader
 inline QString gDBConnector, gDBHost, gDBDBase, gDBUser, gDBPswd, gDBDisplayName, gDBOnAzure;
 inline QString gDBaseRecID, gDBSPID, gDBDefCO, gDBDefBranch, gDBDefHQBranch;
 inline QString gSvrCatCode, gSvrCatString;
-inline std::array<QString, 50> gSvrCatArray;
+inline std::array<QString, 51> gSvrCatArray; // 1 to 50; index 0 is not used
 
 // ---- the schema of the till database ----
 inline QString gTillDBVersion, gLocalDBVersion, gMinVelDBVersion;

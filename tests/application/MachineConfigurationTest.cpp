@@ -61,12 +61,19 @@ TEST_F(MachineConfigurationTest, everyMissingStageIsToldAndNothingIsMade) {
     EXPECT_FALSE(sfg_ReadSysReg()) << "the second folder wins, also without the file";
 }
 
-TEST_F(MachineConfigurationTest, aGarbledFileIsToldAndNothingIsRead) {
+TEST_F(MachineConfigurationTest, aFileThatIsNoTextIsToldAndNothingIsRead) {
     gCmnHost = "kept";
-    write(second, "[Common]\nHost=new\nthis is no setting\n");
+    write(second, QByteArray("[Common]\nHost=new\n\0\n", 21));
     EXPECT_FALSE(sfg_ReadSysReg());
-    EXPECT_TRUE(gErrorMsg.contains("garbled in line 3")) << gErrorMsg.toStdString();
+    EXPECT_TRUE(gErrorMsg.contains("garbled")) << gErrorMsg.toStdString();
     EXPECT_EQ(gCmnHost, "kept");
+}
+
+TEST_F(MachineConfigurationTest, oddLinesDoNotStopTheProgramAndValuesAreAsTheyStand) {
+    read("stray\n[Common]\n// the shop's\nHost=h\nPswd= S\x80 \nDBName\n\x1A");
+    EXPECT_EQ(gCmnHost, "h");
+    EXPECT_EQ(gCmnPswd, " S€ ");
+    EXPECT_EQ(gCmnDBName, "");
 }
 
 TEST_F(MachineConfigurationTest, missingKeysHaveTheirDefaults) {
@@ -120,4 +127,22 @@ TEST_F(MachineConfigurationTest, eachTillHasAMemoryOfItsOwn) {
     EXPECT_EQ(sfg_ReadSession_INIFile("DBDisplayName"), "");
     sfg_WriteSession_INIFile("DBDisplayName", "Other");
     EXPECT_TRUE(QFileInfo::exists(gEXEPath + "Session/velSSN--.ini"));
+}
+
+TEST_F(MachineConfigurationTest, aLinkedSessionFileIsNotFollowed) {
+    gEXEPath = QString::fromStdString(folder.path().string()) + "/";
+    gModCode = "CRO";
+    QDir(gEXEPath).mkdir("Session");
+    gSessionKEY = "01-100";
+    const QString elsewhere = gEXEPath + "elsewhere.ini";
+    QFile file(elsewhere);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[velCRO]\nDBDisplayName=Planted\n");
+    file.close();
+    ASSERT_TRUE(QFile::link(elsewhere, sessionFileName()));
+    EXPECT_EQ(sfg_ReadSession_INIFile("DBDisplayName"), "");
+    sfg_WriteSession_INIFile("DBDisplayName", "Mine");
+    EXPECT_EQ(sfg_ReadSession_INIFile("DBDisplayName"), "Mine");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("Planted"));
 }

@@ -1,7 +1,9 @@
 #include "platform/seat/IniFile.h"
 
+#include "platform/seat/AnsiText.h"
+#include "platform/seat/PrivateFile.h"
+
 #include <QFile>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -12,14 +14,24 @@ namespace {
 
 QString decoded(const QByteArray& bytes) {
     const auto marked = QStringConverter::encodingForData(bytes);
-    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    // Stateless: half a letter at the end of the file is an error and not waited for.
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8),
+                           QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes) : text;
+    return decoder.hasError() ? fromAnsi(bytes) : text;
 }
 
 bool isControl(QChar c) {
     return c < QLatin1Char(' ') && c != QLatin1Char('\t') && c != QLatin1Char('\r') &&
            c != QLatin1Char('\n');
+}
+
+// Editors of old end a text with it.
+void chopEndMark(QString& text) {
+    const QString rest = text.section(QChar(0x1a), 1);
+    if (rest.trimmed().isEmpty()) {
+        text.truncate(text.size() - rest.size() - (text.contains(QChar(0x1a)) ? 1 : 0));
+    }
 }
 
 bool sameText(const QString& left, const QString& right) {
@@ -34,14 +46,14 @@ IniFile IniFile::read(const QString& path) {
         throw IniError(
             QStringLiteral("The file %1 cannot be read: %2.").arg(path, file.errorString()));
     }
-    const QString text = decoded(file.readAll());
+    QString text = decoded(file.readAll());
+    chopEndMark(text);
     if (std::any_of(text.begin(), text.end(), isControl)) {
         throw IniError(QStringLiteral("The file %1 is garbled: it is no text file.").arg(path));
     }
     IniFile result;
-    int number = 0;
-    for (const QString& line : text.split(QLatin1Char('\n'))) {
-        result.addLine(line.trimmed(), ++number, path);
+    for (QStringView line : QStringView(text).split(QLatin1Char('\n'))) {
+        result.addLine(line.endsWith(QLatin1Char('\r')) ? line.chopped(1) : line);
     }
     if (result.section_.isNull()) {
         throw IniError(QStringLiteral("The file %1 is garbled: it has no section.").arg(path));
@@ -49,22 +61,26 @@ IniFile IniFile::read(const QString& path) {
     return result;
 }
 
-void IniFile::addLine(const QString& line, int number, const QString& path) {
-    if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#'))) {
+// What is neither a section nor a key of one is passed over, as every program that shares the file
+// does.
+void IniFile::addLine(QStringView line) {
+    const QStringView plain = line.trimmed();
+    if (plain.startsWith(QLatin1Char(';')) || plain.startsWith(QLatin1Char('#'))) {
         return;
     }
-    if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) {
-        section_ = line.mid(1, line.size() - 2).trimmed();
+    if (plain.startsWith(QLatin1Char('[')) && plain.endsWith(QLatin1Char(']'))) {
+        section_ = plain.mid(1, plain.size() - 2).trimmed().toString();
         return;
     }
     const auto equals = line.indexOf(QLatin1Char('='));
     if (equals < 1 || section_.isNull()) {
-        throw IniError(QStringLiteral("The file %1 is garbled in line %2: it is neither a section "
-                                      "nor a key of one.")
-                           .arg(path)
-                           .arg(number));
+        return;
     }
-    entries_.append({section_, line.left(equals), line.mid(equals + 1).trimmed()});
+    QStringView key = line.left(equals);
+    while (!key.isEmpty() && key.front().isSpace()) {
+        key = key.mid(1);
+    }
+    entries_.append({section_, key.toString(), line.mid(equals + 1).toString()});
 }
 
 qsizetype IniFile::find(const QString& section, const QString& key) const {
@@ -114,8 +130,7 @@ bool IniFile::write(const QString& path) const {
             }
         }
     }
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.commit();
+    return replaceFile(path, text.toUtf8());
 }
 
 } // namespace velcro::seat

@@ -3,6 +3,7 @@
 #include "support/TempFolder.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,7 @@ TEST_F(IniFileTest, valuesAreTakenAsTheyStand) {
                                   "[Common]\r\n"
                                   "Host=server\\one,1433\r\n"
                                   "Pswd=a=b;c %41 \"x\"\r\n"
-                                  "USER = sa\r\n"
+                                  "USER =sa\r\n"
                                   "Host=second\r\n"
                                   "\r\n"
                                   "[HelpDevice]\r\n"
@@ -62,12 +63,33 @@ TEST_F(IniFileTest, textOfAnyKindOfWindowsEditorIsRead) {
     EXPECT_EQ(readText(QByteArray("\xFF\xFE[\0A\0]\0\n\0k\0=\0v\0", 16)).value("A", "k"), "v");
 }
 
-TEST_F(IniFileTest, whatIsNoSettingsFileIsRefusedWithItsPlace) {
+TEST_F(IniFileTest, lettersAboveSevenBitsComeOutAsWritten) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"\x80\x85\x99\x9F", "€…™Ÿ"}, // where Latin-1 has control characters
+        {"Caf\xE9", "Café"},          // and the file ends within what could be a longer letter
+        {"\xDF\xFF", "ßÿ"},
+    };
+    for (const auto& [bytes, text] : cases) {
+        EXPECT_EQ(readText(QByteArray("[A]\nk=") + bytes).value("A", "k"), text);
+    }
+}
+
+TEST_F(IniFileTest, aValueIsAllThatFollowsAndOddLinesArePassedOver) {
+    const IniFile file = readText("a stray word\r\nkey=before any section\r\n// note\r\n"
+                                  "[Common]\r\n// note\r\n=nothing\r\nno sign\r\n[\r\n"
+                                  "Pswd= two blanks  \r\n  Host=h\r\nEmpty=\r\n\x1A");
+    EXPECT_EQ(file.value("Common", "Pswd"), " two blanks  ");
+    EXPECT_EQ(file.value("Common", "Host"), "h");
+    EXPECT_EQ(file.value("Common", "Empty", "missing"), "");
+    EXPECT_EQ(file.value("Common", "no sign", "missing"), "missing");
+    EXPECT_EQ(readText("[A]\nk=v\x1A\r\n").value("A", "k"), "v");
+}
+
+TEST_F(IniFileTest, whatIsNoSettingsFileIsRefused) {
     const std::vector<std::pair<QByteArray, const char*>> cases = {
         {"", "it has no section"},
-        {"key=1\n", "in line 1"},
-        {"[A]\nk=1\nnonsense\n", "in line 3"},
-        {"[A]\n=1\n", "in line 2"},
+        {"key=1\nnonsense\n", "it has no section"},
+        {"[A]\nk=\x1A rest", "it is no text file"},
         {QByteArray("[A]\nk=\0\x01\x02", 9), "it is no text file"}};
     for (const auto& [text, message] : cases) {
         const QString told = refusal(text);
@@ -88,4 +110,21 @@ TEST_F(IniFileTest, writingKeepsWhatWasThere) {
     EXPECT_EQ(again.value("velCRO", "DBDisplayName"), "Händler");
     EXPECT_EQ(again.value("velCRO", "Old"), "2");
     EXPECT_FALSE(file.write(path + "/none/file"));
+}
+
+TEST_F(IniFileTest, writingIsForTheOwnerAloneAndThroughNoLink) {
+    const QString elsewhere = QString::fromStdString(folder.file("elsewhere"));
+    QFile target(elsewhere);
+    ASSERT_TRUE(target.open(QIODevice::WriteOnly));
+    target.write("[Others]\n");
+    target.close();
+    ASSERT_TRUE(QFile::link(elsewhere, path));
+    IniFile file;
+    file.setValue("A", "k", "v");
+    ASSERT_TRUE(file.write(path));
+    EXPECT_EQ(IniFile::read(path).value("A", "k"), "v");
+    EXPECT_FALSE(QFileInfo(path).isSymLink());
+    EXPECT_FALSE(QFile::permissions(path).testAnyFlags(QFile::ReadOther | QFile::ReadGroup));
+    ASSERT_TRUE(target.open(QIODevice::ReadOnly));
+    EXPECT_EQ(target.readAll(), "[Others]\n");
 }
