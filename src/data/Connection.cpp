@@ -51,8 +51,10 @@ ConnectionSettings parseConnectionString(const QString& text) {
     static const auto ignore = [](ConnectionSettings&, const QString&) {};
     static const std::map<QString, Take> settings = {
         {"provider name", ignore},
-        {"server", [](auto& to, const QString& value) { to.server = value.toStdString(); }},
-        {"database", [](auto& to, const QString& value) { to.database = value.toStdString(); }},
+        {"server",
+         [](auto& to, const QString& value) { to.server = value.trimmed().toStdString(); }},
+        {"database",
+         [](auto& to, const QString& value) { to.database = value.trimmed().toStdString(); }},
         {"user id", [](auto& to, const QString& value) { to.user = value.toStdString(); }},
         {"password", [](auto& to, const QString& value) { to.password = value.toStdString(); }},
         {"login prompt", ignore},
@@ -114,25 +116,23 @@ void Connection::open() {
     lost_ = false;
     inTransaction_ = false;
     directWork_ = false;
+    if (afterConnect) {
+        afterConnect();
+    }
 }
 
 void Connection::Disconnect() noexcept {
     for (Statement* statement : std::as_const(statements_)) {
         statement->Close();
     }
-    if (!link_) {
-        return;
-    }
-    if (!inTransaction_) {
-        try {
-            settle();
-        } catch (const std::exception& error) {
-            qWarning("Work that was waiting could not be made durable: %s", error.what());
+    if (link_) {
+        if (!inTransaction_) {
+            settleAtLast();
         }
+        link_->disconnect();
+        link_.reset();
     }
-    link_->disconnect();
-    link_.reset();
-    lost_ = false;
+    lost_ = false; // closed on purpose: what comes next must not open it again
     inTransaction_ = false;
 }
 
@@ -152,7 +152,7 @@ void Connection::ensureOpen() {
 
 // Runs one piece of work and keeps count of what a loss of the connection takes with it.
 template <class Work>
-void Connection::guarded(const Work& work) {
+void Connection::notingLoss(const Work& work) {
     try {
         work();
     } catch (const SqlError& error) {
@@ -166,22 +166,14 @@ void Connection::guarded(const Work& work) {
 
 void Connection::StartTransaction() {
     ensureOpen();
-    try {
-        guarded([this] { link_->begin(); });
-    } catch (const SqlError&) {
-        if (!runsAgain()) {
-            throw;
-        }
-        open();
-        guarded([this] { link_->begin(); });
-    }
+    notingLoss([this] { link_->begin(); });
     inTransaction_ = true;
     workInTransaction_ = false;
 }
 
 void Connection::Commit() {
     ensureOpen();
-    guarded([this] { commitOnLink(); });
+    notingLoss([this] { commitOnLink(); });
     inTransaction_ = false;
     directWork_ = false;
 }
@@ -204,7 +196,7 @@ void Connection::Rollback() {
     inTransaction_ = false;
     directWork_ = false;
     if (link_ && !lost_) {
-        guarded([this] { link_->rollback(); });
+        notingLoss([this] { link_->rollback(); });
     }
 }
 
@@ -214,10 +206,18 @@ void Connection::settle() {
     }
     directWork_ = false;
     try {
-        guarded([this] { commitOnLink(); });
+        notingLoss([this] { commitOnLink(); });
     } catch (const SqlError&) {
         rollbackAfterFailure(); // a commit that failed still holds its locks
         throw;
+    }
+}
+
+void Connection::settleAtLast() noexcept {
+    try {
+        settle();
+    } catch (const std::exception& error) {
+        qWarning("Work that was waiting could not be made durable: %s", error.what());
     }
 }
 
@@ -265,7 +265,7 @@ Connection::run(const QString& batch, std::span<const velcro::sql::Parameter> pa
         });
     };
     try {
-        guarded(send);
+        notingLoss(send);
     } catch (const SqlError&) {
         // What an open transaction did before is gone with the connection: half of it must not run.
         if (!runsAgain() || (inTransaction_ && workInTransaction_)) {
@@ -276,7 +276,7 @@ Connection::run(const QString& batch, std::span<const velcro::sql::Parameter> pa
         if (inTransaction) {
             StartTransaction();
         }
-        guarded(send);
+        notingLoss(send);
     }
     workInTransaction_ = true;
     return results;

@@ -65,6 +65,8 @@ public:
     void Disconnect() noexcept;
     bool Connected() const;
 
+    /// A connection that is found lost at this call is not opened again for it: the failure is the
+    /// caller's, and the next work connects. Throws SqlError.
     void StartTransaction();
     /// Where the connection is lost meanwhile, nobody knows whether it happened, and SqlError says so.
     void Commit();
@@ -83,6 +85,9 @@ public:
     std::vector<velcro::sql::StatementResult>
     run(const QString& batch, std::span<const velcro::sql::Parameter> parameters);
 
+    /// Called whenever the connection has been opened, also by itself after a loss; may be empty.
+    std::function<void()> afterConnect;
+
     /// Makes the end of the seam; a test may put a faulty one in.
     using Factory =
         std::function<std::unique_ptr<velcro::sql::SqlConnection>(std::string_view server)>;
@@ -94,9 +99,10 @@ private:
     void ensureOpen();
     void noteDirectWork();
     void commitOnLink();
+    void settleAtLast() noexcept;
     bool runsAgain() const { return lost_ && options_.whenLost == WhenLost::RunAgain; }
     template <class Work>
-    void guarded(const Work& work);
+    void notingLoss(const Work& work);
 
     ConnectionOptions options_;
     QString connectString_;

@@ -5,10 +5,18 @@
 #include "data/Session.h"
 
 TtData::TtData()
-    : VelmaraTILL({.whenLost = WhenLost::RunAgain, .specificOptions = standardSpecificOptions()}) {}
+    : VelmaraTILL({.whenLost = WhenLost::RunAgain, .specificOptions = standardSpecificOptions()}) {
+    VelmaraTILL.afterConnect = [this] { VelmaraTILLAfterConnect(); };
+}
+
+void TtData::VelmaraTILLAfterConnect() {
+    if (afterConnect) {
+        afterConnect();
+    }
+}
 
 bool TtData::ConnectDB_TIL() {
-    const bool connected = connectModule(
+    return connectModule(
         VelmaraTILL, {.host = gLocHost,
                       .database = gLocDBName,
                       .user = gLocUser,
@@ -17,10 +25,6 @@ bool TtData::ConnectDB_TIL() {
                       .azure = gLocAzure,
                       .unit = "DataUTIL",
                       .failure = "%1.ConnectDB_TIL - Failed to connect to database [%2].\r: %3"});
-    if (connected && afterConnect) {
-        afterConnect();
-    }
-    return connected;
 }
 
 void TtData::Disconnect_TIL() {
@@ -28,10 +32,8 @@ void TtData::Disconnect_TIL() {
 }
 
 void TtData::CloseDB_TIL() {
-    if (VelmaraTILL.Connected()) {
-        Close_Query_TIL();
-        VelmaraTILL.Disconnect();
-    }
+    Close_Query_TIL();
+    VelmaraTILL.Disconnect();
 }
 
 void TtData::Close_Query_TIL() {

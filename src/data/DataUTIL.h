@@ -30,19 +30,22 @@ public:
     Statement tQuery11{VelmaraTILL, Statement::Use::Reader};
     Statement tQuery12{VelmaraTILL, Statement::Use::Reader};
 
-    /// Called after each connect when set.
+    /// Called after each connect when set, also after one that the connection made by itself.
     std::function<void()> afterConnect;
 
     /// Opens by the gLoc... values. Throws VelmaraError with unit, database and reason.
     bool ConnectDB_TIL();
     void Disconnect_TIL();
-    /// Closes statements and connection; does nothing when not connected.
+    /// Closes statements and connection, also one that was lost; does nothing when not connected.
     void CloseDB_TIL();
     void Close_Query_TIL();
 
     /// Runs gSQL (xMemoNo 1) or gSQL2 in one transaction. Shows nothing: the reason of a false
     /// result is in gErrorMsg. Not connected leaves the buffer as it is.
     bool til_ExecSQL(int xMemoNo);
+
+private:
+    void VelmaraTILLAfterConnect();
 };
 
 inline std::unique_ptr<TtData> tData;

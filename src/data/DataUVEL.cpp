@@ -7,19 +7,20 @@
 
 namespace {
 
-ConnectionOptions suiteOptions(WhenLost whenLost) {
+// Without failover: what was lost is never run again, whatever a lost-connection event would say.
+ConnectionOptions suiteOptions() {
     return {.pooling = false,
             .autoCommit = false,
             .localFailover = false,
             .enableBCD = true,
-            .whenLost = whenLost};
+            .whenLost = WhenLost::Raise};
 }
 
 } // namespace
 
 TgData::TgData()
-    : Velmara(suiteOptions(WhenLost::Raise))
-    , RemoteDB(suiteOptions(WhenLost::RunAgain)) {}
+    : Velmara(suiteOptions())
+    , RemoteDB(suiteOptions()) {}
 
 bool TgData::ConnectDB_VEL(const QString& xDBConnector, const QString& xHost, const QString& xDBase,
                            const QString& xUser, const QString& xPswd, const QString& xAzure) {

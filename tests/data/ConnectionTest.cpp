@@ -179,3 +179,62 @@ TEST_F(ConnectionTest, closingATillThatIsNotOpenDoesNothing) {
     EXPECT_EQ(server.log.back(), "disconnect");
     EXPECT_FALSE(tData->VelmaraTILL.Connected());
 }
+
+TEST_F(ConnectionTest, aLostConnectionThatIsClosedStaysClosed) {
+    const struct
+    {
+        const char* name;
+        Connection& connection;
+        std::function<void()> connect, close;
+    } closings[] = {
+        {"common", cData->VelmaraCommon, [] { cData->ConnectDB_Common(); },
+         [] { cData->CloseDB_Common(); }},
+        {"suite", gData->Velmara, connectSuite, [] { gData->CloseDB_VEL(); }},
+        {"suite, at a change", gData->Velmara, connectSuite, [] { gData->Disconnect_VEL(); }},
+        {"till", tData->VelmaraTILL, [] { tData->ConnectDB_TIL(); }, [] { tData->CloseDB_TIL(); }},
+        {"till, at a change", tData->VelmaraTILL, [] { tData->ConnectDB_TIL(); },
+         [] { tData->Disconnect_TIL(); }},
+    };
+    for (const auto& [name, connection, connect, close] : closings) {
+        for (const bool staysDown : {false, true}) {
+            connect();
+            server.lose("SELECT 1", 2);
+            server.refusesConnections = staysDown;
+            EXPECT_THROW(read(connection, "SELECT 1"), SqlError) << name;
+            server.refusesConnections = false;
+            server.lose("SELECT 1", 0);
+            close();
+            server.log.clear();
+            EXPECT_THROW(read(connection, "SELECT 2"), SqlError) << name;
+            EXPECT_TRUE(server.log.empty()) << name << " was opened again";
+        }
+    }
+}
+
+TEST_F(ConnectionTest, aTransactionThatCannotBeginIsNotBegunAgain) {
+    cData->ConnectDB_Common();
+    server.lose("begin");
+    sfg_AddSQL("UPDATE Version", "NEW");
+    EXPECT_THROW(cData->cmn_ExecSQL(), SqlError);
+    EXPECT_EQ(server.count("UPDATE Version ;"), 0);
+    sfg_AddSQL("UPDATE Version", "NEW");
+    EXPECT_TRUE(cData->cmn_ExecSQL()) << "the next one connects";
+    EXPECT_EQ(server.count("connect COMMON"), 2);
+}
+
+TEST_F(ConnectionTest, theRemoteConnectionNeverRunsAnythingAgain) {
+    gData->ConnectDB_Remote({}, "far", "FAR", {}, {}, {});
+    server.lose("SELECT 1");
+    EXPECT_THROW(read(gData->RemoteDB, "SELECT 1"), SqlError);
+    EXPECT_EQ(server.count("SELECT 1"), 1);
+}
+
+TEST_F(ConnectionTest, theTillTellsEveryConnectAlsoItsOwn) {
+    int connects = 0;
+    tData->afterConnect = [&connects] { ++connects; };
+    tData->ConnectDB_TIL();
+    EXPECT_EQ(connects, 1);
+    server.lose("SELECT 1");
+    read(tData->VelmaraTILL, "SELECT 1");
+    EXPECT_EQ(connects, 2);
+}
