@@ -18,8 +18,9 @@ const RightReads rightReads{
 TfrmCMN900::TfrmCMN900()
     : SignInForm(QStringLiteral("CMN900"), QStringLiteral("Supervisor Overide Function")) {
     setWindowTitle(QStringLiteral("Supervisor Over-Ride Code Required"));
-    edSuperCode = addCode(QStringLiteral("edSuperCode"), QStringLiteral("Supervisor Code"));
-    edSuperPswd = addPassword(QStringLiteral("edSuperPswd"), QStringLiteral("Password"));
+    edSuperCode =
+        addCode(QStringLiteral("edSuperCode"), QStringLiteral("Supervisor Code"), anyLength);
+    edSuperPswd = addPassword(QStringLiteral("edSuperPswd"), QStringLiteral("Password"), anyLength);
     auto* btnProceed = addButton(QStringLiteral("btnProceed"), QStringLiteral("   &Proceed"),
                                  QStringLiteral("F10"));
     btnProceed->setRole(velcro::ui::KeyButton::Role::Main);

@@ -24,8 +24,7 @@ TfrmCMN901::TfrmCMN901()
     setWindowTitle(QStringLiteral("Double Supervisor Over-Ride Required"));
     addSupervisor(supervisors_[0], QStringLiteral("1"), QStringLiteral("First Supervisor"));
     addSupervisor(supervisors_[1], QStringLiteral("2"), QStringLiteral("Second Supervisor"));
-    auto* btnOK =
-        addButton(QStringLiteral("btnOK"), QStringLiteral(" Proceed"), QStringLiteral("F10"));
+    auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral(" Proceed"), QString());
     btnOK->setRole(velcro::ui::KeyButton::Role::Main);
     auto* btnCancel =
         addButton(QStringLiteral("btnCancel"), QStringLiteral("Cancel"), QStringLiteral("ESC"));

@@ -131,6 +131,7 @@ bool TfrmCMN999::eventFilter(QObject* watched, QEvent* event) {
 void TfrmCMN999::FormShow() {
     gTillDBVersion = requiredTillDBVersion;
     gMinVelDBVersion = requiredTillDBVersion;
+    setWindowTitle(gEXETitle);
     StatusBar1().setPanelText(1, gEXETitle);
     xReturn = QStringLiteral("START");
     resetStatusBar();
@@ -239,14 +240,17 @@ bool TfrmCMN999::tillDatabaseReady() {
 }
 
 // The password is still good on its expiry date.
-bool TfrmCMN999::passwordMustChange() const {
-    if (edUserPswd->text().trimmed() == defaultPassword) {
-        return true;
-    }
-    if (gAllowPswdExp != QLatin1String("Y")) {
+bool TfrmCMN999::passwordHasExpired() const {
+    return gAllowPswdExp == QLatin1String("Y") &&
+           dateText(StrToDate(gPswdDate).addDays(gPswdExpDays)) < sfg_Date(0);
+}
+
+// Two steps: whoever has both the default password and one that has expired chooses twice.
+bool TfrmCMN999::passwordMayStay() {
+    if (edUserPswd->text().trimmed() == defaultPassword && !ChangePswd()) {
         return false;
     }
-    return dateText(StrToDate(gPswdDate).addDays(gPswdExpDays)) < sfg_Date(0);
+    return !passwordHasExpired() || ChangePswd();
 }
 
 void TfrmCMN999::btnOKClick() {
@@ -265,7 +269,7 @@ void TfrmCMN999::btnOKClick() {
         displayError(gErrorMsg);
         return;
     }
-    if (passwordMustChange() && !ChangePswd()) {
+    if (!passwordMayStay()) {
         edUserCode->setFocus();
         return;
     }

@@ -40,7 +40,8 @@ private:
     void edUserPswdEnter();
     bool entriesAccepted();
     bool tillDatabaseReady();
-    bool passwordMustChange() const;
+    bool passwordHasExpired() const;
+    bool passwordMayStay();
     void selectDatabase(const QString& xDisplayName);
 
     QString defDisplayName_; // of the last session

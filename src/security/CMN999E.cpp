@@ -53,10 +53,16 @@ void TfrmCMN999E::FormShow() {
 
 bool TfrmCMN999E::eventFilter(QObject* watched, QEvent* event) {
     if (watched == grid_ && event->type() == QEvent::KeyPress) {
-        const QString typed = static_cast<QKeyEvent*>(event)->text();
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool stays = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter ||
+                           key->key() == Qt::Key_Escape;
+        const QString typed = key->text();
         if (!typed.isEmpty() && typed.at(0).isPrint()) {
             showFindPanel(typed);
             return true;
+        }
+        if (!stays) {
+            edFind_->show(); // and the key goes on to the grid
         }
     }
     return Screen::eventFilter(watched, event);

@@ -41,16 +41,22 @@ void ReferencePage::showRows() {
 }
 
 bool ReferencePage::footerIsOpen() const {
-    return edSearch_->isVisible();
+    return !edSearch_->isHidden(); // also on a page that is not in front
 }
 
 void ReferencePage::flipFooter() {
-    const bool open = !footerIsOpen();
-    edSearch_->clear();
-    edSearch_->setVisible(open);
-    if (open) {
-        edSearch_->setFocus();
+    if (footerIsOpen()) {
+        closeFooter();
     } else {
+        edSearch_->show();
+        edSearch_->setFocus();
+    }
+}
+
+void ReferencePage::closeFooter() {
+    edSearch_->clear();
+    edSearch_->hide();
+    if (isVisible()) {
         grid_->setFocus();
     }
 }

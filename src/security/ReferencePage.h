@@ -30,6 +30,7 @@ public:
 
     bool footerIsOpen() const;
     void flipFooter();
+    void closeFooter();
 
 private:
     void search(const QString& text);

@@ -10,12 +10,10 @@
 
 namespace {
 
-constexpr int codeLength = 10;
-
-QString entryStyle(bool password, bool hasFocus) {
-    return QStringLiteral("%1 %2").arg(
-        password ? QStringLiteral("lineedit-password-character: 35;") : QString(),
-        hasFocus ? QStringLiteral("background: #ffeca8;") : QString());
+// The character counts only while the edit hides its text, so every entry has it.
+QString entryStyle(bool hasFocus) {
+    return QStringLiteral("lineedit-password-character: 35; %1")
+        .arg(hasFocus ? QStringLiteral("background: #ffeca8;") : QString());
 }
 
 } // namespace
@@ -35,17 +33,17 @@ SignInForm::SignInForm(const QString& unit, const QString& caption, int leastWid
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 }
 
-QLineEdit* SignInForm::addCode(const QString& name, const QString& label) {
-    auto* edit = form_->edit(name, label, {.width = 16, .limit = codeLength, .upperCase = true});
+QLineEdit* SignInForm::addCode(const QString& name, const QString& label, int limit) {
+    auto* edit = form_->edit(name, label, {.width = 16, .limit = limit, .upperCase = true});
     edit->installEventFilter(this);
     velcro::ui::connectHandler(edit, &QLineEdit::returnPressed, this, [this] { goOn(); });
     return edit;
 }
 
-QLineEdit* SignInForm::addPassword(const QString& name, const QString& label) {
-    auto* edit = addCode(name, label);
+QLineEdit* SignInForm::addPassword(const QString& name, const QString& label, int limit) {
+    auto* edit = addCode(name, label, limit);
     edit->setEchoMode(QLineEdit::Password);
-    edit->setStyleSheet(entryStyle(true, false));
+    edit->setStyleSheet(entryStyle(false));
     edit->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText);
     return edit;
 }
@@ -71,9 +69,7 @@ void SignInForm::finish(const QString& outcome) {
 bool SignInForm::eventFilter(QObject* watched, QEvent* event) {
     if (auto* edit = qobject_cast<QLineEdit*>(watched);
         edit && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
-        edit->setStyleSheet(
-            entryStyle(edit->echoMode() == QLineEdit::Password || edit->property("secret").toBool(),
-                       event->type() == QEvent::FocusIn));
+        edit->setStyleSheet(entryStyle(event->type() == QEvent::FocusIn));
     }
     return Screen::eventFilter(watched, event);
 }

@@ -22,11 +22,14 @@ public:
 
 protected:
     velcro::ui::FormBuilder& form() { return *form_; }
-    /// Upper case, ten letters, marked while it has the focus. Enter goes on to the next control
-    /// unless the form binds it otherwise.
-    QLineEdit* addCode(const QString& name, const QString& label);
+    static constexpr int codeLength = 10;
+    static constexpr int anyLength = 0;
+
+    /// Upper case, marked while it has the focus. Enter goes on to the next control unless the form
+    /// binds it otherwise.
+    QLineEdit* addCode(const QString& name, const QString& label, int limit = codeLength);
     /// The same, shown as "#".
-    QLineEdit* addPassword(const QString& name, const QString& label);
+    QLineEdit* addPassword(const QString& name, const QString& label, int limit = codeLength);
     velcro::ui::KeyButton* addButton(const QString& name, const QString& caption,
                                      const QString& keyCap);
     /// Enter in that edit runs the handler in place of going on.

@@ -27,10 +27,11 @@ constexpr LegacyGroup legacyGroups[] = {
     {"SYS", &gParam_SYS}, {"TIL", &gParam_TIL},       {"VIP", &gParam_VIP},
 };
 
-/// The group a definition belongs to: its level, or its module where it is of no level.
+/// The group a definition belongs to: its level, or its module where it is of no level. Throws
+/// std::out_of_range, which no read keeps to itself, for a blank xParmType.
 QString groupCode(const QString& xParmType, const QString& xModCode) {
     if (xParmType.isEmpty()) {
-        throw std::out_of_range("ParmType is empty");
+        throw std::out_of_range("A row of vcSysParmControl has an empty ParmType.");
     }
     switch (xParmType.at(0).unicode()) {
     case 'B':

@@ -222,6 +222,7 @@ bool runSteps(const QString& xCO, const QString& xBranch) {
 bool sli_LogIn(const QString& xUserCode, const QString& xUserPswd, int xDBaseRecID,
                const QString& xCO, const QString& xBranch) {
     gErrorMsg.clear();
+    gUserCode.clear(); // a user who cannot be read must not be the one before
     gLoginResult = QStringLiteral("0");
     gMinVelDBVersion = QStringLiteral("14.47.41");
     sli_UserCode = xUserCode;

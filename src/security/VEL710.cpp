@@ -141,20 +141,17 @@ void TfrmVEL710::btnSearchClick() {
     activePage()->flipFooter();
 }
 
-// Closes a footer that is open first, and the form only when there is none.
+// Closes the footers that are open first, on whichever page, and the form only when there is none.
 void TfrmVEL710::btnCloseClick() {
+    bool closed = false;
     for (int i = 0; i < pages_->count(); ++i) {
         auto* page = qobject_cast<ReferencePage*>(pages_->widget(i));
         if (page->footerIsOpen()) {
-            page->flipFooter();
-            return;
+            page->closeFooter();
+            closed = true;
         }
     }
-    reject();
-}
-
-void sfvel_TechHelp(const QString& xFormCode) {
-    TfrmVEL710 form;
-    form.xFormCode = xFormCode;
-    velcro::ui::runModal(form);
+    if (!closed) {
+        reject();
+    }
 }

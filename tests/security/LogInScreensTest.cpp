@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
 
 #include <gtest/gtest.h>
 
@@ -166,6 +167,48 @@ TEST_F(LogInScreensTest, aSecondEnterDoesNotRunTheLogInWithinTheLogIn) {
     EXPECT_EQ(form.xReturn, "CANCEL");
 }
 
+TEST_F(LogInScreensTest, aDefaultPasswordThatHasExpiredIsChangedTwice) {
+    Desk::onSuite("UPDATE SYSUser SET UserPswd = 'XQZ741' WHERE UserCode = 'EXPIRED'");
+    const auto change = [this](const char* password) {
+        user.expectForm("Change System Password", [this, password] {
+            user.typeInto("edPswd1", password);
+            user.typeInto("edPswd2", password);
+            user.press(Qt::Key_Return);
+        });
+        user.expectForm("System Message", [this] { user.press(Qt::Key_Return); });
+    };
+    change("FIRST1");
+    change("SECOND2");
+    TfrmCMN999 form;
+    user.workIn(form, [&] { refusal(form, "EXPIRED", "XQZ741"); });
+    EXPECT_EQ(form.xReturn, "OK");
+    EXPECT_EQ(Desk::suite("SELECT UserPswd FROM SYSUser WHERE UserCode = 'EXPIRED'"), "SECOND2");
+}
+
+TEST_F(LogInScreensTest, passwordsCanBeReadAndHiddenAgain) {
+    TfrmCMN999 form;
+    user.expectForm("Change System Password", [&] {
+        user.typeInto("edPswd1", "AB");
+        user.typeInto("edPswd2", "CD");
+        const auto shown = [this] {
+            return user.find<QLineEdit>("edPswd1").displayText() +
+                   user.find<QLineEdit>("edPswd2").displayText();
+        };
+        EXPECT_EQ(shown(), "####");
+        user.click("btnShowPswd");
+        EXPECT_EQ(shown(), "ABCD");
+        user.find<QLineEdit>("edPswd1").setFocus();
+        user.find<QLineEdit>("edPswd2").setFocus();
+        user.click("btnShowPswd");
+        EXPECT_EQ(shown(), "####");
+        user.click("btnCancel");
+    });
+    user.workIn(form, [&] {
+        refusal(form, "NEWUSER", "XQZ741");
+        user.click("btnCancel");
+    });
+}
+
 TEST_F(LogInScreensTest, aBlankPasswordDateUnderExpiryIsAFaultAndTheScreenStays) {
     QStringList faults;
     velcro::ui::setErrorDisplay([&](const QString& text) { faults.append(text); });
@@ -208,6 +251,10 @@ TEST_F(LogInScreensTest, theDatabaseIsPickedByTypingAndRemembered) {
     user.expectForm("Select Log-in Database ", [&] {
         EXPECT_TRUE(namelessControls(user.form()).isEmpty());
         EXPECT_EQ(user.column("Company").size(), 5);
+        EXPECT_FALSE(user.find<QLineEdit>("edFind").isVisible());
+        user.press(Qt::Key_Down);
+        EXPECT_TRUE(user.find<QLineEdit>("edFind").isVisible()) << "any key shows the find panel";
+        user.press(Qt::Key_Escape);
         user.type("harb");
         EXPECT_EQ(user.column("Company"), QStringList("Brindavel Harbour Row"));
         user.press(Qt::Key_Escape);
@@ -246,10 +293,10 @@ TEST_F(LogInScreensTest, anEmptyListOfDatabasesLeavesTheFormUp) {
 
 TEST_F(LogInScreensTest, theFingerprintSettingsPickTheScreen) {
     gBDActive = QStringLiteral("N");
-    user.expectForm("Log-In : " + gEXETitle, [&] { user.click("btnCancel"); });
+    user.expectForm(gEXETitle, [&] { user.click("btnCancel"); });
     EXPECT_FALSE(slif_Show_LogInForm());
     gBDActive = QStringLiteral("Y");
     gBDDeviceCode = QStringLiteral("01");
-    user.expectForm("Log-In : " + gEXETitle, [&] { user.click("btnCancel"); });
+    user.expectForm(gEXETitle, [&] { user.click("btnCancel"); });
     EXPECT_FALSE(slif_Show_LogInForm()) << "the standard screen is the fall-back";
 }

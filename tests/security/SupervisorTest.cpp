@@ -5,6 +5,7 @@
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
+#include "ui/KeyButton.h"
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,9 @@ TEST_F(SupervisorTest, oneSupervisorLendsARight) {
                   "100414|The Supervisor User Code DOES NOT have sufficient rights to grant access "
                   "for this Security Request");
         keepPicture(user.form(), "supervisor");
+        const QString code(40, 'X');
+        authorise(code, code);
+        EXPECT_EQ(user.sees("edSuperCode"), code) << "these fields have no limit";
         authorise("super1", "super1 ");
     });
     EXPECT_TRUE(sfvel_CheckUserAccess("CRO", 2, "N")) << "S: one supervisor";
@@ -79,6 +83,7 @@ TEST_F(SupervisorTest, twoSupervisorsLendARightTogether) {
     user.expectForm(both, [&] {
         EXPECT_TRUE(namelessControls(user.form()).isEmpty());
         EXPECT_TRUE(clippedControls(user.form()).isEmpty());
+        EXPECT_EQ(user.find<velcro::ui::KeyButton>("btnOK").keyCap(), "") << "no key presses it";
         const auto proceed = [&](const char* code1, const char* pswd1, const char* code2,
                                  const char* pswd2) {
             user.typeInto("edSuper1", code1);

@@ -275,3 +275,18 @@ TEST_F(SysLogInTest, birthdaysWithoutAWayToSendAreTriedAgain) {
     Desk::onSuite("DELETE FROM EMPMaster");
     EXPECT_FALSE(sli_Process_Employee_Birthday_SMS());
 }
+
+TEST_F(SysLogInTest, whoCannotBeReadIsNotTheUserBefore) {
+    ASSERT_TRUE(logIn(central, "COUNTER1", "COUNTER")) << gErrorMsg.toStdString();
+    Desk::onSuite("DROP TABLE SysUser");
+    EXPECT_FALSE(logIn(central, "MANAGER", "ANYTHING"));
+    EXPECT_EQ(gUserCode, "");
+    EXPECT_TRUE(gErrorMsg.startsWith("This User is NOT Allowed Access")) << gErrorMsg.toStdString();
+}
+
+TEST_F(SysLogInTest, aParameterOfNoTypeIsAFaultThatGoesOn) {
+    ASSERT_TRUE(logIn(central, "COUNTER1", "COUNTER")) << gErrorMsg.toStdString();
+    Desk::onCommon("INSERT INTO vcSysParmControl ([Suite], [ParmType], [ModCode], [ParmNo], "
+                   "[ParmName], [DefaultValue]) VALUES ('VELMARA', '', 'CO', 999, 'X', 'Y')");
+    EXPECT_THROW(par_LoadParameters("01", "100"), std::out_of_range);
+}

@@ -5,6 +5,7 @@
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
 
+#include <QLineEdit>
 #include <QTabWidget>
 
 #include <gtest/gtest.h>
@@ -45,6 +46,12 @@ TEST_F(TechnicalReferenceTest, showsWhatGovernsAScreenAndHowItStands) {
         user.press(Qt::Key_Escape);
         EXPECT_EQ(user.column("Param No.").size(), 4) << "Escape closes the footer first";
         EXPECT_TRUE(user.form().isVisible());
+        user.click("btnSearch");
+        pages.setCurrentIndex(0);
+        user.press(Qt::Key_Escape);
+        EXPECT_TRUE(user.form().isVisible()) << "also the footer of a page behind";
+        pages.setCurrentIndex(1);
+        EXPECT_FALSE(user.find<QLineEdit>("grdParamsSearch").isVisible());
         user.press(Qt::Key_Escape);
     });
     sfvel_TechHelp("CRO100");
