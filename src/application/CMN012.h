@@ -27,7 +27,7 @@ private:
     void returnToApplication();
 
     int sCnt_ = countFrom;
-    QTimer Timer1_;
+    QTimer Timer1_{this};
     QProgressBar* gauge_ = nullptr;
 };
 

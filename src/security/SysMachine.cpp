@@ -23,7 +23,11 @@ QString sm_GetSerialID() {
 }
 
 QString sm_GetPCName() {
-    return seat::computerName().left(20);
+    return pcNameText(seat::computerName());
+}
+
+QString pcNameText(const QString& computer) {
+    return computer.left(20);
 }
 
 QString sm_Get_Login_UserName() {
@@ -31,7 +35,10 @@ QString sm_Get_Login_UserName() {
 }
 
 QString sm_GetIP() {
-    const QStringList addresses = seat::hostAddresses();
+    return addressThatCounts(seat::hostAddresses());
+}
+
+QString addressThatCounts(const QStringList& addresses) {
     return addresses.isEmpty() ? QString() : addresses.last();
 }
 

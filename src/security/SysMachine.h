@@ -11,9 +11,13 @@ QString sm_GetAdapterInfo(int Lana);
 QString sm_GetSerialID();
 /// At most 20 characters, as the audit columns hold.
 QString sm_GetPCName();
+/// The same of any name of a computer.
+QString pcNameText(const QString& computer);
 QString sm_Get_Login_UserName();
 /// The last of the addresses of the computer's name; blank without any.
 QString sm_GetIP();
+/// The same of any addresses.
+QString addressThatCounts(const QStringList& addresses);
 /// Version of this program as major.minor.release, the last two with at least two digits.
 QString sm_Version();
 /// The same of any dotted version; "0.0.0" for what is none.

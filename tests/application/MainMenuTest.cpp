@@ -238,6 +238,16 @@ TEST_F(MainMenuTest, theBandOfTheBranchAndColoursThatAreNone) {
         {"Red", 0xffff0000},
         {"$00FF8000", 0xff0080ff},
         {"255", 0xffff0000},
+        {"0xFF", 0xffff0000},
+        {"clBtnFace", QGuiApplication::palette().color(QPalette::Button).rgb()},
+        {"-16777201", QGuiApplication::palette().color(QPalette::Button).rgb()},
+        {"$FF000005", QGuiApplication::palette().color(QPalette::Base).rgb()},
+        {"clCream", 0xfffffbf0},
+        {"clMoneyGreen", 0xffc0dcc0},
+        {"clmedgray", 0xffa0a0a4},
+        {"clSkyBlue", 0xffa6caf0},
+        {"clLtGray", 0xffc0c0c0},
+        {"clDkGray", 0xff808080},
     };
     for (const auto& [text, colour] : colours) {
         gBRStatusBarColor = QLatin1String(text);
@@ -269,8 +279,15 @@ TEST_F(MainMenuTest, leavingIsAskedAndClosesTheDatabases) {
     press(Qt::Key_Escape);
     EXPECT_TRUE(form.isVisible());
     user.expectForm("System Prompt", [&] { user.click("btnYes"); });
+    Statement* const shared[] = {&gData->vQuery1, &gData->vQuery15, &gData->vLoadQuery1};
+    for (Statement* query : shared) {
+        query->Open({"SELECT 1 AS One"});
+    }
     click("btnMNUExit");
     EXPECT_FALSE(form.isVisible());
+    for (const Statement* query : shared) {
+        EXPECT_FALSE(query->Active()) << "the shared queries are closed";
+    }
     EXPECT_FALSE(cData->VelmaraCommon.Connected());
     EXPECT_EQ(form.exitStatus(), 0);
 }
@@ -335,4 +352,12 @@ TEST_F(MainMenuTest, anIdleSeatCountsDownAndTheUserMayComeBack) {
     now += 3'000'000;
     form.ExeIdle->check(); // a key counts as use
     EXPECT_TRUE(form.isVisible());
+    bool again = false;
+    user.expectForm("Application Shutdown", [&] {
+        again = true;
+        user.press(Qt::Key_Escape);
+    });
+    now += 600'000;
+    form.ExeIdle->check();
+    EXPECT_TRUE(again) << "whoever came back is watched again";
 }

@@ -92,6 +92,19 @@ TEST_F(VersionCheckTest, theNoticeNamesBothAndCtrlF12GoesOnWithAny) {
     EXPECT_EQ(registered(), "14.48.00");
 }
 
+TEST_F(VersionCheckTest, theButtonOfTheNoticeClosesItAsItsKeysDo) {
+    const std::pair<const char*, bool> versions[] = {{"14.47.40", true}, {"14.48.00", false}};
+    gVersion = QStringLiteral("14.47.41");
+    for (const auto& [before, starts] : versions) {
+        setRegistered(before);
+        user.expectForm(notice, [&] {
+            user.click("btnClose");
+            EXPECT_FALSE(user.form().isVisible());
+        });
+        EXPECT_EQ(sfg_CheckEXEVersion(), starts) << before;
+    }
+}
+
 TEST_F(VersionCheckTest, aVersionWithLettersLeavesTheChoiceToTheUser) {
     setRegistered("14.47.beta");
     gVersion = QStringLiteral("14.47.41");

@@ -4,6 +4,7 @@
 #include "lookups/CRO900.h"
 #include "lookups/CRO910.h"
 #include "repairs/SysCRO.h"
+#include "screens/ScreenServices.h"
 #include "support/Desk.h"
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
@@ -221,4 +222,23 @@ TEST_F(SelectionTest, withoutSerialsSelectingClosesWithNothing) {
     EXPECT_EQ(screen.xRecID, 0);
     EXPECT_EQ(screen.xSerialNo, "");
     EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(SelectionTest, aListClosesItsQueryAndOpensItsTechnicalReference) {
+    struct Opened : TfrmCRO900
+    {
+        Opened()
+            : TfrmCRO900(nullptr) {}
+        using ListScreen::query;
+    } list;
+    QString asked;
+    gScreenServices.techHelp = [&asked](const QString& form) { asked = form; };
+    user.workIn(list, [&] {
+        EXPECT_TRUE(list.query().Active());
+        user.click("btnTechHelp");
+        user.press(Qt::Key_Escape);
+    });
+    gScreenServices.techHelp = {};
+    EXPECT_FALSE(list.query().Active());
+    EXPECT_EQ(asked, "CRO900");
 }

@@ -15,6 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -173,6 +174,10 @@ TEST_F(DialogsTest, theCountDownEndsTheProgram) {
     TfrmCMN012 form;
     user.workIn(form, [&] {
         EXPECT_EQ(user.find<QProgressBar>("gauge").value(), 10);
+        const auto* timer = form.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+        ASSERT_NE(timer, nullptr);
+        EXPECT_TRUE(timer->isActive()) << "it counts by itself";
+        EXPECT_EQ(timer->interval(), 1000);
         for (int left = 9; left >= 1; --left) {
             form.tick();
             EXPECT_EQ(user.find<QProgressBar>("gauge").value(), left);

@@ -79,6 +79,42 @@ TEST_F(SysFuncGlobalTest, messagesStandInTheirPanelWithTheColourOfTheirType) {
     }
 }
 
+TEST_F(SysFuncGlobalTest, messagesHaveTheImageAndTheInkOfTheirType) {
+    const auto bar = barWith(psHTML);
+    int asked = -1;
+    sData->MainImages = [&asked](int index) {
+        asked = index;
+        QPixmap picture(16, 16);
+        picture.fill(QColor(0, 0, index));
+        return QIcon(picture);
+    };
+    const struct
+    {
+        const char* type;
+        int image;
+        QRgb ink;
+    } types[] = {
+        {"Msg", 29, 0xff000000},  {"Info", 28, 0xff000000},   {"Error", 72, 0xffffffff},
+        {"Warn", 50, 0xff000000}, {"Alert", 101, 0xff000000}, {"Other", 49, 0xff000000},
+    };
+    for (const auto& [type, image, ink] : types) {
+        sfg_DisplayBar(type, "MMMMMM", *bar, 1);
+        const QImage picture = bar->grab().toImage();
+        EXPECT_EQ(asked, image) << type;
+        const QRect panel = bar->panelRect(1);
+        EXPECT_EQ(picture.pixel(panel.left() + 14, panel.center().y()), QColor(0, 0, image).rgb())
+            << type;
+        bool found = false;
+        for (int x = panel.left() + 30; x < panel.right(); ++x) {
+            for (int y = panel.top(); y < panel.bottom(); ++y) {
+                const int distance = qAbs(qGray(picture.pixel(x, y)) - qGray(ink));
+                found = found || distance < 48;
+            }
+        }
+        EXPECT_TRUE(found) << type << " is written in its ink";
+    }
+}
+
 TEST_F(SysFuncGlobalTest, theMemoryIsOneForAllBars) {
     const auto first = barWith(psHTML);
     const auto second = barWith(psText);
