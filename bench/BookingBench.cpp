@@ -7,6 +7,7 @@
 
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
+#include "data/SearchTerms.h"
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "data/SysLoadData.h"
@@ -172,11 +173,7 @@ public:
 
 private:
     static QString searchText(const ListFacts& facts) {
-        QString text;
-        for (const QString& fragment : facts.searchFragments) {
-            text += fragment + QString::fromStdString(searched) + QStringLiteral("%'");
-        }
-        return text + facts.searchEnd;
+        return searchTerms(facts.search.terms, QString::fromStdString(searched)) + facts.search.end;
     }
     void search(TfrmCRO900& screen, QDialog& form) {
         QTest::keyClick(&screen.grid(), Qt::Key_S, Qt::AltModifier);

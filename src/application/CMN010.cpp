@@ -38,12 +38,13 @@ TfrmCMN010::TfrmCMN010(const QString& exeVersion, const QString& sysVersion)
     addFact(QStringLiteral("lblEXEName"), tr("Program"), gEXEName);
     addFact(QStringLiteral("lblEXEVersion"), tr("This version"), exeVersion);
     addFact(QStringLiteral("lblSystemVersion"), tr("Registered version"), sysVersion);
-    auto* btnClose = addButton(QStringLiteral("btnClose"), tr("Press [ENTER] to Close"), {});
+    auto* btnClose = addButton({.name = QStringLiteral("btnClose"),
+                                .caption = tr("Press [ENTER] to Close"),
+                                .key = Qt::Key_Return,
+                                .handler = [this] { btnCloseClick(); },
+                                .alsoKeys = {Qt::Key_Escape},
+                                .cap = QString()});
     btnClose->setFocus();
-    velcro::ui::connectHandler(btnClose, &QPushButton::clicked, this, &TfrmCMN010::btnCloseClick);
-    addKey(QStringLiteral("acClose"), Qt::Key_Return, &TfrmCMN010::btnCloseClick);
-    addKey(QStringLiteral("acCloseKeypad"), Qt::Key_Enter, &TfrmCMN010::btnCloseClick);
-    addKey(QStringLiteral("acExit"), Qt::Key_Escape, &TfrmCMN010::btnCloseClick);
     addKey(QStringLiteral("acIgnore"), Qt::CTRL | Qt::Key_F12, &TfrmCMN010::acIgnoreExecute);
     addKey(QStringLiteral("acUpdateVersion"), Qt::CTRL | Qt::SHIFT | Qt::Key_U, nullptr);
     centre(0);

@@ -5,7 +5,6 @@
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 
-#include <QAction>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -27,14 +26,11 @@ TfrmCMN012::TfrmCMN012()
     gauge_->setFormat(QStringLiteral("%v"));
     gauge_->setMinimumHeight(36);
     body().addWidget(gauge_);
-    auto* btnReturn =
-        addButton(QStringLiteral("btnReturn"), tr("Return to Application"), QStringLiteral("ESC"));
-    btnReturn->setProperty("role", QStringLiteral("main"));
-    connect(btnReturn, &QPushButton::clicked, this, &TfrmCMN012::returnToApplication);
-    auto* acReturn = new QAction(this);
-    acReturn->setShortcut(Qt::Key_Escape);
-    connect(acReturn, &QAction::triggered, this, &TfrmCMN012::returnToApplication);
-    addAction(acReturn);
+    addButton({.name = QStringLiteral("btnReturn"),
+               .caption = tr("Return to Application"),
+               .key = Qt::Key_Escape,
+               .handler = [this] { returnToApplication(); },
+               .role = ButtonFacts::Role::Main});
     Timer1_.setInterval(1000);
     velcro::ui::connectHandler(&Timer1_, &QTimer::timeout, this, &TfrmCMN012::tick);
 }

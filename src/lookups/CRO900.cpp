@@ -4,61 +4,35 @@
 #include "data/Settings.h"
 #include "data/StatementText.h"
 
-#include <QFocusEvent>
-#include <QLineEdit>
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 ListFacts customerFacts() {
     return {
-        .unit = QStringLiteral("CRO900"),
-        .caption = QStringLiteral("Debtors: Customer Selection"),
-        .errorNo = QStringLiteral("900-001"),
-        .errorText = QStringLiteral("SQL Error on Table: DEBMaster :-"),
-        .columns =
-            {
-                {"Account"},
-                {"Name", "Debtors Name"},
-                {"Contact"},
-                {"Cellphone"},
-                {"Telephone"},
-                {"Telephone2", "Telephone #2"},
-                {"RecID", {}, false},
-                {"IDNo", "ID Number", false},
-                {"DefBranch", "Default Branch", false},
-            },
-        .searchFragments =
-            {
-                QStringLiteral("AND [Account] LIKE '%"),
-                QStringLiteral(" OR [Name] LIKE '%"),
-                QStringLiteral(" OR [IDNo] LIKE '%"),
-                QStringLiteral(" OR [Cellphone] LIKE '%"),
-            },
-        .searchEnd = QStringLiteral(" ORDER BY [Name]"),
+        .unit = u"CRO900"_s,
+        .caption = u"Debtors: Customer Selection"_s,
+        .failure = {u"900-001"_s, u"SQL Error on Table: DEBMaster :-"_s, ListFailure::Then::GoesOn},
+        .columns = {{"Account"},
+                    {"Name", "Debtors Name"},
+                    {"Contact"},
+                    {"Cellphone"},
+                    {"Telephone"},
+                    {"Telephone2", "Telephone #2"}},
+        .hidden = {{"RecID"}, {"IDNo", "ID Number"}, {"DefBranch", "Default Branch"}},
+        .search = {.terms = {u"AND [Account] LIKE '%"_s, u" OR [Name] LIKE '%"_s,
+                             u" OR [IDNo] LIKE '%"_s, u" OR [Cellphone] LIKE '%"_s},
+                   .end = u" ORDER BY [Name]"_s,
+                   .onLeaving = true,
+                   .alsoKeys = {Qt::Key_F4}},
+        .cap = 2000,
     };
 }
-
-// clang-format off
-SelectionRead customerRead() {
-    return {
-        .whole = {
-            "SELECT TOP(2000) [Account], [Name], [Cellphone], [Telephone], [Telephone2], [Contact], [IDNo], [DefBranch]",
-            " FROM DEBMaster WITH (NOLOCK)"},
-        .search = {
-            "SELECT [Account], [Name], [Cellphone], [Telephone],  [Telephone2], [Contact], [IDNo], [DefBranch]",
-            "  FROM DEBMaster WITH (NOLOCK)"},
-        .scope = {
-            " WHERE [CO] = " + QuotedStr(gCO),
-            "   AND [Branch] = " + QuotedStr(gDebBranch)},
-        .order = " ORDER BY [Name]",
-    };
-}
-// clang-format on
 
 } // namespace
 
 TfrmCRO900::TfrmCRO900(QWidget* parent)
-    : SelectionScreen(customerFacts(), customerRead(),
+    : SelectionScreen(customerFacts(),
                       {{"Account", &xAccount},
                        {"Name", &xName},
                        {"IDNo", &xIDNo},
@@ -67,39 +41,37 @@ TfrmCRO900::TfrmCRO900(QWidget* parent)
                        {"Telephone2", &xTelephone2},
                        {"DefBranch", &xDefBranch}},
                       parent) {
-    edSearchText->installEventFilter(this);
+    auto select = selectButton();
+    select.needsRecord = true;
+    setButtons({.options = {select}, .functions = {searchButton(), restoreButton({Qt::Key_F12})}});
     // Seats that are worked by touch alone want no keyboard hints.
-    if (sfvel_GetParam(QStringLiteral("TIL"), 62) == QLatin1String("Y")) {
+    if (sfvel_GetParam(u"TIL"_s, 62) == "Y"_L1) {
         hideKeyCaps();
     }
 }
 
-void TfrmCRO900::beforeRead(const QString& xSQL) {
-    btnRestoreGrid->setVisible(!xSQL.trimmed().isEmpty());
-}
-
-void TfrmCRO900::takeRecord() {
-    xDisplay = xAccount + QStringLiteral(" - ") + xName;
-}
-
-// Leaving the search text by Tab or mouse searches as well. Esc hides the panel, and that is no
-// leaving.
-bool TfrmCRO900::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == edSearchText && event->type() == QEvent::FocusOut && edSearchText->isVisible()) {
-        const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-            reason == Qt::MouseFocusReason) {
-            QMetaObject::invokeMethod(
-                this, [this] { velcro::ui::guarded([this] { searchWasLeft(); }); },
-                Qt::QueuedConnection);
-        }
+// clang-format off
+QStringList TfrmCRO900::statementLines(const QString& xSQL) const {
+    const QStringList scope = {
+        " WHERE [CO] = " + QuotedStr(gCO),
+        "   AND [Branch] = " + QuotedStr(gDebBranch)};
+    if (xSQL.trimmed().isEmpty()) {
+        return QStringList{
+            "SELECT TOP(2000) [Account], [Name], [Cellphone], [Telephone], [Telephone2], [Contact], [IDNo], [DefBranch]",
+            " FROM DEBMaster WITH (NOLOCK)"} + scope + QStringList{
+            " ORDER BY [Name]"};
     }
-    return SelectionScreen::eventFilter(watched, event);
+    return QStringList{
+            "SELECT [Account], [Name], [Cellphone], [Telephone],  [Telephone2], [Contact], [IDNo], [DefBranch]",
+            "  FROM DEBMaster WITH (NOLOCK)"} + scope + QStringList{xSQL};
+}
+// clang-format on
+
+void TfrmCRO900::beforeRead(bool whole) {
+    findChild<QWidget*>(u"btnRestoreGrid"_s)->setVisible(!whole);
 }
 
-// A click on the search button has searched by itself and hidden the panel.
-void TfrmCRO900::searchWasLeft() {
-    if (pnlSearch->isVisible()) {
-        btnSearchClick();
-    }
+bool TfrmCRO900::rowPicked() {
+    xDisplay = xAccount + u" - "_s + xName;
+    return true;
 }

@@ -16,10 +16,7 @@ public:
     QString xAccount, xName, xIDNo, xCellphone, xTelephone, xTelephone2, xDefBranch;
 
 protected:
-    void takeRecord() override;
-    void beforeRead(const QString& xSQL) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    void searchWasLeft();
+    QStringList statementLines(const QString& xSQL) const override;
+    void beforeRead(bool whole) override;
+    bool rowPicked() override;
 };

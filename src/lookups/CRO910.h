@@ -15,7 +15,6 @@ public:
     QString xSerialNo, xStatus, xStockCode, xLinkCode, xDescription1;
 
 protected:
-    void takeRecord() override;
-    void nothingToTake() override;
+    QStringList statementLines(const QString& xSQL) const override;
     void searchEntered() override;
 };

@@ -4,53 +4,47 @@
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "repairs/CRO100A.h"
-#include "ui/Modal.h"
 
-using velcro::ui::connectHandler;
-using velcro::ui::GridColumn;
-using velcro::ui::KeyButton;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-std::vector<GridColumn> registerColumns() {
-    std::vector<GridColumn> columns = {
-        {"Status"},
-        {"CRONo", "Order #No"},
-        {"TranDate", "Date"},
-        {"Account"},
-        {"Name"},
-        {"Cellphone"},
-        {"EMail"},
-        {"Reference"},
-        {"ReceiveDate", "Received Date"},
-        {"ReceiveMthd", "Received Method"},
-        {"ReceiveItems", "Received Items"},
-    };
-    for (const char* hidden :
-         {"RecID", "CO", "Branch", "Address1", "Address2", "Address3", "Address4", "PostCode",
-          "Telephone1", "Telephone2", "Contact", "DTODate", "DTOTime", "DTOUser", "DTOMacID"}) {
-        columns.push_back({QString::fromLatin1(hidden), {}, false});
-    }
-    return columns;
-}
-
 ListFacts registerFacts() {
     return {
-        .unit = QStringLiteral("CRO100"),
-        .caption = QStringLiteral("Workshop Centre: Repair Orders Management"),
-        .errorNo = QStringLiteral("100-001"),
-        .errorText = QStringLiteral("SQL Error reading object \"CRORepMst\". Details: "),
-        .columns = registerColumns(),
+        .unit = u"CRO100"_s,
+        .caption = u"Workshop Centre: Repair Orders Management"_s,
+        .failure = {u"100-001"_s, u"SQL Error reading object \"CRORepMst\". Details: "_s},
+        .columns = {{"Status"},
+                    {"CRONo", "Order #No"},
+                    {"TranDate", "Date"},
+                    {"Account"},
+                    {"Name"},
+                    {"Cellphone"},
+                    {"EMail"},
+                    {"Reference"},
+                    {"ReceiveDate", "Received Date"},
+                    {"ReceiveMthd", "Received Method"},
+                    {"ReceiveItems", "Received Items"}},
+        .hidden = {{"RecID"},
+                   {"CO"},
+                   {"Branch"},
+                   {"Address1"},
+                   {"Address2"},
+                   {"Address3"},
+                   {"Address4"},
+                   {"PostCode"},
+                   {"Telephone1"},
+                   {"Telephone2"},
+                   {"Contact"},
+                   {"DTODate"},
+                   {"DTOTime"},
+                   {"DTOUser"},
+                   {"DTOMacID"}},
         // Without brackets only the first term is bound to the company and branch: a match on the
         // others is wanted from everywhere.
-        .searchFragments =
-            {
-                QStringLiteral("AND [CRONo] LIKE '%"),
-                QStringLiteral(" OR [Account] LIKE '%"),
-                QStringLiteral(" OR [Name] LIKE '%"),
-                QStringLiteral(" OR [Cellphone] LIKE '%"),
-                QStringLiteral(" OR [Reference] LIKE '%"),
-            },
+        .search = {.terms = {u"AND [CRONo] LIKE '%"_s, u" OR [Account] LIKE '%"_s,
+                             u" OR [Name] LIKE '%"_s, u" OR [Cellphone] LIKE '%"_s,
+                             u" OR [Reference] LIKE '%"_s}},
     };
 }
 
@@ -58,20 +52,12 @@ ListFacts registerFacts() {
 
 TfrmCRO100::TfrmCRO100(QWidget* parent)
     : MaintenanceList(registerFacts(), gData->Velmara, parent) {
-    auto* btnLines = addOption(QStringLiteral("btnLines"), QStringLiteral("Order Items"),
-                               QStringLiteral("ENTER"));
-    btnLines->setEnabled(bool(gShowRepairOrderItems));
-    connectHandler(btnLines, &KeyButton::clicked, this, [this] { btnLinesClick(); });
-    setMainButton(btnLines);
-    addMaintenance({QStringLiteral("New* Order"), QStringLiteral("Edit Order"),
-                    QStringLiteral("Remove Order")},
-                   QStringLiteral("CTRL-ENTER"));
-    addSearch(QStringLiteral("CTRL-S"));
-    addRestore(QStringLiteral("CTRL-R"), QKeySequence(Qt::CTRL | Qt::Key_R));
-    addPrint();
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_Return), btnUpdate);
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_Enter), btnUpdate);
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { btnSearchClick(); });
+    setButtons({
+        .options = {linesButton(), addButton(u"New* Order"_s),
+                    updateButton(u"Edit Order"_s, Qt::CTRL | Qt::Key_Return),
+                    deleteButton(u"Remove Order"_s)},
+        .functions = {searchButton(), restoreButton(), printButton()},
+    });
 }
 
 QStringList TfrmCRO100::statementLines(const QString& xSQL) const {
@@ -87,17 +73,21 @@ QStringList TfrmCRO100::statementLines(const QString& xSQL) const {
 }
 
 void TfrmCRO100::openDetail(int xFunction, int xRecID) {
-    TfrmCRO100A detail(this);
-    detail.xFunction = xFunction;
-    detail.xRecID = xRecID;
-    velcro::ui::runModal(detail);
+    showDetail<TfrmCRO100A>(xFunction, xRecID);
 }
 
-void TfrmCRO100::btnLinesClick() {
-    showForCurrent([this](int xRecID) {
-        const auto text = [this](const char* field) {
-            return query().FieldByName(QString::fromLatin1(field)).AsString();
-        };
-        gShowRepairOrderItems(this, {xRecID, text("CRONo"), text("Account"), text("Name")});
-    });
+ButtonFacts TfrmCRO100::linesButton() {
+    const auto show = [this](int xRecID) {
+        gShowRepairOrderItems(
+            this, {xRecID, currentText("CRONo"), currentText("Account"), currentText("Name")});
+    };
+    ButtonFacts facts = {.name = u"btnLines"_s,
+                         .caption = u"Order Items"_s,
+                         .key = Qt::Key_Return,
+                         .needsRecord = true,
+                         .role = ButtonFacts::Role::Main};
+    if (gShowRepairOrderItems) {
+        facts.handler = [this, show] { showForCurrent(show); };
+    }
+    return facts;
 }

@@ -4,8 +4,6 @@
 
 #include "screens/ListScreen.h"
 
-#include <functional>
-
 /// What the register hands to the item list of an order.
 struct RepairOrderKey
 {
@@ -31,5 +29,5 @@ protected:
     void openDetail(int xFunction, int xRecID) override;
 
 private:
-    void btnLinesClick();
+    ButtonFacts linesButton();
 };

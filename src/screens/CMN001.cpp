@@ -52,15 +52,16 @@ TfrmCMN001::TfrmCMN001(const QString& errorNo, const QString& message, const QSt
     const bool hasLog = !gErrorLogMsg.trimmed().isEmpty();
     addFact(QStringLiteral("lblLogMsg"), {}, hasLog ? gErrorLogMsg : QString())->setVisible(hasLog);
     addComments(gErrorComment);
-    auto* btnAppTerminate =
-        addButton(QStringLiteral("btnAppTerminate"), tr("Terminate Application"), {});
-    btnAppTerminate->setProperty("role", QStringLiteral("danger"));
-    buttons().insertWidget(0, btnAppTerminate);
-    velcro::ui::connectHandler(btnAppTerminate, &QPushButton::clicked, this, [this] {
+    const auto terminate = [this] {
         reject();
         terminateApplication();
-    });
-    addCloseButton(tr("Close"));
+    };
+    auto* btnAppTerminate = addButton({.name = QStringLiteral("btnAppTerminate"),
+                                       .caption = tr("Terminate Application"),
+                                       .handler = terminate,
+                                       .role = ButtonFacts::Role::Danger});
+    buttons().insertWidget(0, btnAppTerminate);
+    addCloseButton();
     addStatusBar();
     resize(620, gErrorComment.trimmed().isEmpty() ? heightWithoutComments : 470);
 }

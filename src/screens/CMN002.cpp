@@ -27,7 +27,7 @@ void showMessage(QDialog& form) {
 TfrmTextMessage::TfrmTextMessage(const MessageLook& look, const QString& text, int xTimer)
     : MessageForm(look) {
     addText(QStringLiteral("edMessage"), text, tr("Message"));
-    btnClose = addCloseButton(tr("Close"));
+    btnClose = addCloseButton();
     closeAfter(xTimer);
 }
 

@@ -4,7 +4,6 @@
 #include "ui/Events.h"
 #include "ui/Modal.h"
 
-#include <QAction>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -27,17 +26,14 @@ TfrmCMN004::TfrmCMN004(const QString& title, const QString& message)
     memTitle->setFont(font);
     body().addWidget(memTitle);
     addText(QStringLiteral("memMessage"), QStringLiteral("\r") + message, tr("Question"));
-    for (const bool yes : {true, false}) {
-        auto* button = addButton(yes ? QStringLiteral("btnYes") : QStringLiteral("btnNo"),
-                                 yes ? tr(" Yes") : tr(" No"),
-                                 yes ? QStringLiteral("Y") : QStringLiteral("N"));
-        connect(button, &QPushButton::clicked, this, [this, yes] { choose(yes); });
-        auto* action = new QAction(this);
-        action->setObjectName(yes ? QStringLiteral("acYes") : QStringLiteral("acNo"));
-        action->setShortcut(yes ? Qt::Key_Y : Qt::Key_N);
-        connect(action, &QAction::triggered, button, &QPushButton::click);
-        addAction(action);
-    }
+    addButton({.name = QStringLiteral("btnYes"),
+               .caption = tr(" Yes"),
+               .key = Qt::Key_Y,
+               .handler = [this] { choose(true); }});
+    addButton({.name = QStringLiteral("btnNo"),
+               .caption = tr(" No"),
+               .key = Qt::Key_N,
+               .handler = [this] { choose(false); }});
     setFocus();
 }
 

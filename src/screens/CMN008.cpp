@@ -24,7 +24,7 @@ TfrmCMN008::TfrmCMN008(const QString& errorNo, const QString& prgName, const QSt
     addFact(QStringLiteral("lblErrorNo"), tr("Access Number"), errorNo);
     addFact(QStringLiteral("lblPrgName"), tr("Program"), prgName);
     addFact(QStringLiteral("lblRoutine"), tr("Routine"), routine);
-    addCloseButton(tr("Close"));
+    addCloseButton();
     centre(xLeft);
 }
 

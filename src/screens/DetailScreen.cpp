@@ -49,8 +49,6 @@ DetailScreen::DetailScreen(DetailFacts facts, QWidget* parent)
     , facts_(std::move(facts)) {
     makeForm();
     makeButtons();
-    bindKey(Qt::Key_F10, btnSave);
-    bindKey(Qt::Key_Escape, btnCancel);
 }
 
 void DetailScreen::makeForm() {
@@ -86,14 +84,19 @@ void DetailScreen::makeForm() {
 
 // Save stands at the bottom right, where the thumb is.
 void DetailScreen::makeButtons() {
-    btnKeyboard = newButton(u"btnKeyboard"_s, u"Touch Keyboard"_s, {});
-    btnCancel = newButton(u"btnCancel"_s, u"Close Window"_s, u"ESC"_s);
-    btnSave = newButton(u"btnSave"_s, facts_.saveCaption, u"F10"_s);
-    btnSave->setRole(KeyButton::Role::Main);
+    btnKeyboard = makeButton(*this, {.name = u"btnKeyboard"_s,
+                                     .caption = u"Touch Keyboard"_s,
+                                     .handler = sfg_ShowTouchKeyboard});
+    btnCancel = makeButton(*this, {.name = u"btnCancel"_s,
+                                   .caption = u"Close Window"_s,
+                                   .key = Qt::Key_Escape,
+                                   .handler = [this] { reject(); }});
+    btnSave = makeButton(*this, {.name = u"btnSave"_s,
+                                 .caption = facts_.saveCaption,
+                                 .key = Qt::Key_F10,
+                                 .handler = [this] { btnSaveClick(); },
+                                 .role = KeyButton::Role::Main});
     btnKeyboard->setFocusPolicy(Qt::NoFocus); // the edit that is typed into keeps the focus
-    connectHandler(btnKeyboard, &KeyButton::clicked, this, [] { sfg_ShowTouchKeyboard(); });
-    connectHandler(btnCancel, &KeyButton::clicked, this, &DetailScreen::reject);
-    connectHandler(btnSave, &KeyButton::clicked, this, [this] { btnSaveClick(); });
     auto* row = new QHBoxLayout;
     row->setContentsMargins(margin, margin, margin, margin);
     row->setSpacing(margin);

@@ -2,102 +2,145 @@
 
 #include "data/Errors.h"
 #include "data/Prompts.h"
+#include "data/SearchTerms.h"
 #include "screens/GridPrint.h"
-#include "ui/Modal.h"
+#include "screens/RecordBar.h"
+#include "screens/SearchPanel.h"
 
 #include <QApplication>
-#include <QFrame>
-#include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
 
 using velcro::ui::RowGrid;
+using namespace Qt::Literals::StringLiterals;
 
 ListScreen::ListScreen(ListFacts facts, Connection& connection, QWidget* parent)
     : Screen(facts.unit, facts.caption, parent)
     , facts_(std::move(facts))
     , query_(connection) {
+    if (!facts_.statusCode.isEmpty()) {
+        StatusBar1().setPanelText(0, facts_.statusCode);
+    }
     makePanel();
+    makeRight();
     bindKey(Qt::Key_Escape, this, [this] { acCancelExecute(); });
 }
 
 void ListScreen::BuildGrid(const QString& xSQL) {
+    build({}, xSQL);
+}
+
+void ListScreen::build(const QString& searchedFor, const QString& xSQL) {
     try {
-        readList(xSQL);
+        readList(searchedFor, xSQL);
     } catch (const std::exception& error) {
         readFailed(error);
-        if (raisesReadFailure()) {
+        if (facts_.failure.then == ListFailure::Then::Raises) {
             throw;
         }
     }
 }
 
-void ListScreen::readList(const QString& xSQL) {
-    beforeRead(xSQL);
+void ListScreen::readList(const QString& searchedFor, QString xSQL) {
+    const bool whole = searchedFor.isEmpty() && xSQL.trimmed().isEmpty();
+    if (pnlSearch_ != nullptr) {
+        pnlSearch_->hide(); // before the focus leaves it
+    }
+    beforeRead(whole);
+    query_.setText({});
+    searchedFor_ = searchedFor;
+    showRows();
+    if (!searchedFor.isEmpty()) {
+        xSQL = searchTerms(facts_.search.terms, searchedFor) + facts_.search.end;
+    }
     query_.setText(statementLines(xSQL));
-    grid_->setRows(query_.rows());
-    showRowCount();
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     query_.Open();
-    grid_->setRows(query_.rows());
-    showRowCount();
+    if (whole) {
+        wholeRows_ = query_.RecordCount();
+    }
+    showRows();
     grid_->setFocus();
+    afterRead();
 }
 
 void ListScreen::readFailed(const std::exception& error) {
-    sfg_ErrorDlg(facts_.errorNo, facts_.errorText + QLatin1Char('\r') + errorText(error),
-                 unitName(), QStringLiteral("BuildGrid"));
+    const auto& failure = facts_.failure;
+    sfg_ErrorDlg(failure.number,
+                 failure.tellsReason ? failure.text + u'\r' + errorText(error) : failure.text,
+                 unitName(), u"BuildGrid"_s);
 }
 
-void ListScreen::showRowCount() {
+void ListScreen::showRows() {
+    grid_->setRows(query_.rows());
+    records_->setText(whatIsShown());
+    currentRecordChanged();
+}
+
+QString ListScreen::whatIsShown() const {
     const int count = query_.RecordCount();
-    rowCount_->setText(count == 1 ? QStringLiteral("1 row")
-                                  : QLocale().toString(count) + QStringLiteral(" rows"));
+    const bool searched = !searchedFor_.isEmpty();
+    const int cap = searched ? facts_.search.cap : facts_.cap;
+    const auto number = [](int rows) { return QLocale().toString(rows); };
+    QString text = number(count) + (count == 1 ? u" row"_s : u" rows"_s);
+    if (cap > 0 && count >= cap) {
+        text = u"the first %1 rows"_s.arg(number(count));
+    } else if (searched && wholeRows_ > count && (facts_.cap == 0 || wholeRows_ < facts_.cap)) {
+        text = u"%1 of %2 rows"_s.arg(number(count), number(*wholeRows_));
+    }
+    return searched ? text + u" for '%1'"_s.arg(searchedFor_) : text;
 }
 
-void ListScreen::showForCurrent(const std::function<void(int xRecID)>& show) {
+void ListScreen::currentRecordChanged() {
+    if (const auto row = grid_->currentResultRow()) {
+        query_.setRecNo(static_cast<int>(*row) + 1);
+    }
+    for (auto* button : recordButtons_) {
+        button->setEnabled(hasCurrentRecord());
+    }
+}
+
+QString ListScreen::currentText(const char* field) const {
+    return hasCurrentRecord() ? query_.FieldByName(QString::fromLatin1(field)).AsString()
+                              : QString();
+}
+
+void ListScreen::showForCurrent(const std::function<void(int xRecID)>& show,
+                                const QString& locateBy) {
     if (!hasCurrentRecord()) {
         return;
     }
-    const int wRecID = query_.FieldByName(QStringLiteral("RecID")).AsInteger();
-    show(wRecID);
+    const QString value = query_.FieldByName(locateBy).AsString();
+    show(query_.FieldByName(u"RecID"_s).AsInteger());
     BuildGrid();
-    grid_->locate(QStringLiteral("RecID"), QString::number(wRecID));
+    grid_->locate(locateBy, value);
 }
 
 void ListScreen::rowChosen() {
-    if (mainButton_ != nullptr) {
-        mainButton_->click();
+    if (enterButton_ != nullptr) {
+        enterButton_->click();
     }
 }
 
 void ListScreen::btnLookupClick() {
-    pnlSearch->show();
-    edSearchText->selectAll();
-    edSearchText->setFocus();
+    pnlSearch_->open();
 }
 
 void ListScreen::btnSearchClick() {
-    const auto text = edSearchText->text();
+    const QString text = pnlSearch_->text();
     if (text.trimmed().isEmpty()) {
         return;
     }
-    QString xSQL;
-    for (const auto& fragment : facts_.searchFragments) {
-        xSQL += fragment + text + QStringLiteral("%'");
-    }
-    pnlSearch->hide();
-    BuildGrid(xSQL + facts_.searchEnd);
+    build(text, {});
 }
 
 void ListScreen::hideSearch() {
-    pnlSearch->hide();
+    pnlSearch_->hide();
     grid_->setFocus();
 }
 
 void ListScreen::acCancelExecute() {
-    if (pnlSearch != nullptr && pnlSearch->isVisible()) {
+    if (pnlSearch_ != nullptr && pnlSearch_->isVisible()) {
         hideSearch();
     } else {
         reject();
@@ -106,11 +149,12 @@ void ListScreen::acCancelExecute() {
 
 void ListScreen::btnPrintClick() {
     velcro::ui::GridPrinter printer(*grid_);
-    sfvel_GridPrintTitle(printer, unitName() + QStringLiteral(" - ") + windowTitle(), QString());
+    sfvel_GridPrintTitle(printer, unitName() + u" - "_s + windowTitle(), QString());
     printer.preview(this);
 }
 
 void ListScreen::FormShow() {
+    orderTabs();
     BuildGrid();
 }
 
@@ -126,18 +170,4 @@ void MaintenanceList::ShowDetailForm(int xFunction) {
     }
     openDetail(xFunction, 0);
     BuildGrid();
-}
-
-void MaintenanceList::addMaintenance(const Captions& captions, const QString& updateKeyCap) {
-    using velcro::ui::connectHandler;
-    using velcro::ui::KeyButton;
-    btnAdd = addOption(QStringLiteral("btnAdd"), captions.add, QStringLiteral("INS"));
-    btnUpdate = addOption(QStringLiteral("btnUpdate"), captions.update, updateKeyCap);
-    btnDelete = addOption(QStringLiteral("btnDelete"), captions.remove, QStringLiteral("DEL"));
-    btnDelete->setRole(KeyButton::Role::Danger);
-    connectHandler(btnAdd, &KeyButton::clicked, this, [this] { ShowDetailForm(1); });
-    connectHandler(btnUpdate, &KeyButton::clicked, this, [this] { ShowDetailForm(2); });
-    connectHandler(btnDelete, &KeyButton::clicked, this, [this] { ShowDetailForm(3); });
-    bindKey(Qt::Key_Insert, btnAdd);
-    bindKey(Qt::Key_Delete, btnDelete);
 }

@@ -4,30 +4,60 @@
 
 #include "data/Statement.h"
 #include "screens/Screen.h"
+#include "ui/Modal.h"
 #include "ui/RowGrid.h"
-
-#include <QStringList>
 
 #include <functional>
 #include <vector>
 
+class QBoxLayout;
 class QFrame;
-class QGridLayout;
-class QHBoxLayout;
-class QLabel;
-class QLineEdit;
+class QVBoxLayout;
+class RecordBar;
+class SearchPanel;
+
+/// What the user is told when the list cannot be read.
+struct ListFailure
+{
+    enum class Then { Raises, GoesOn };
+
+    QString number; // of the error dialog
+    QString text;
+    Then then = Then::Raises; // after the dialog
+    bool tellsReason = true;  // the text goes on with a carriage return and what the server said
+};
+
+/// A search in a list; without terms it has none.
+struct ListSearch
+{
+    QStringList terms = {};            // each stands before the text that is searched for
+    QString end = {};                  // what follows them, such as an ordering
+    bool onLeaving = false;            // leaving the text searches too, but by Esc
+    int cap = 0;                       // most rows that a search brings; 0: all
+    QList<QKeySequence> alsoKeys = {}; // run the search, beside Ctrl+S
+};
 
 /// What a concrete list states of itself.
 struct ListFacts
 {
     QString unit;    // "CRO100"
     QString caption; // title of the window
-    QString errorNo; // number of the error dialog when the read fails
-    QString errorText;
+    ListFailure failure;
     std::vector<velcro::ui::GridColumn> columns; // in view order
-    /// Each stands before the text that is searched for; none: the screen has no search panel.
-    QStringList searchFragments = {};
-    QString searchEnd = {}; // what follows the search, such as an ordering
+    /// What the result holds besides; a user may show it in his own layout.
+    std::vector<velcro::ui::GridColumn> hidden = {};
+    ListSearch search = {};
+    int cap = 0;             // most rows that the whole list brings; 0: all
+    QString statusCode = {}; // in the status bar, when it is not the unit
+};
+
+/// The buttons of a list, top to bottom.
+struct ListButtons
+{
+    QList<ButtonFacts> options;
+    QList<ButtonFacts> functions = {};
+    QString closeName = QStringLiteral("btnCancel");
+    QString closeCaption = QStringLiteral("Close Window");
 };
 
 class ListScreen : public Screen
@@ -38,7 +68,7 @@ public:
     ListScreen(ListFacts facts, Connection& connection, QWidget* parent);
 
     /// Reads the list anew; xSQL is extra text for the statement, blank for the whole list. A
-    /// failure is shown and, unless the screen says otherwise, thrown on.
+    /// failure is shown and, as the screen states, thrown on.
     void BuildGrid(const QString& xSQL = {});
 
     velcro::ui::RowGrid& grid() { return *grid_; }
@@ -47,33 +77,36 @@ public:
 protected:
     /// The statement, line by line.
     virtual QStringList statementLines(const QString& xSQL) const = 0;
-    virtual bool raisesReadFailure() const { return true; }
-    /// Before the list is read with this extra text.
-    virtual void beforeRead(const QString& /*xSQL*/) {}
-    /// Enter on a row, and double click.
+    /// whole: there is no search.
+    virtual void beforeRead(bool /*whole*/) {}
+    /// The rows are there; the user stands on the first one.
+    virtual void afterRead() {}
+    /// Enter on a row, and double click: presses the button whose key is Enter.
     virtual void rowChosen();
+    /// A click or a tap on a row, which is the current record then.
+    virtual void rowClicked() {}
     /// Enter in the search text.
     virtual void searchEntered() { btnSearchClick(); }
+
+    /// Call once, in the constructor.
+    void setButtons(const ListButtons& buttons);
+    ButtonFacts searchButton();
+    ButtonFacts restoreButton(const QList<QKeySequence>& alsoKeys = {});
+    ButtonFacts printButton();
+
+    /// Room above the grid and to the right of it, for a form of the screen's own.
+    QWidget& above();
+    QWidget& beside();
 
     bool hasCurrentRecord() const { return grid_->currentResultRow().has_value(); }
     /// The record the user stands on.
     Statement& query() { return query_; }
     const Statement& query() const { return query_; }
-    /// Shows a screen for the current record; afterwards the list is read again and the record
-    /// found again.
-    void showForCurrent(const std::function<void(int xRecID)>& show);
-
-    velcro::ui::KeyButton* addOption(const QString& name, const QString& caption,
-                                     const QString& keyCap);
-    velcro::ui::KeyButton* addFunction(const QString& name, const QString& caption,
-                                       const QString& keyCap);
-    /// Enter in the grid and a double click press this one.
-    void setMainButton(velcro::ui::KeyButton* button);
-    velcro::ui::KeyButton* mainButton() { return mainButton_; }
-    /// Search, restore and print with their keys; what a screen lacks it leaves out.
-    void addSearch(const QString& keyCap);
-    void addRestore(const QString& keyCap, const QKeySequence& key);
-    void addPrint();
+    QString currentText(const char* field) const; // blank without one
+    /// Shows a screen for the current record, if there is one; afterwards the list is read again and
+    /// the row found again that has the same value in the field.
+    void showForCurrent(const std::function<void(int xRecID)>& show,
+                        const QString& locateBy = QStringLiteral("RecID"));
 
     void btnLookupClick();
     void btnSearchClick();
@@ -83,35 +116,41 @@ protected:
     void FormShow() override;
     void done(int result) override;
 
-    QFrame* pnlSearch = nullptr;
-    QLineEdit* edSearchText = nullptr;
-    velcro::ui::KeyButton* btnRestoreGrid = nullptr;
-    velcro::ui::KeyButton* btnSearch = nullptr;
-
 private:
     void makePanel();
+    void makeRight();
     void makeGrid();
     void makeSearchPanel();
     void makeGridMenu();
-    QHBoxLayout* makeNavigation();
-    velcro::ui::KeyButton* addToPanel(int position, const QString& name, const QString& caption,
-                                      const QString& keyCap);
+    void orderTabs();
+    void addToPanel(const ButtonFacts& facts);
+    void addHeading(const QString& text);
     void hideSearch();
-    void showRowCount();
-    void readList(const QString& xSQL);
+    void currentRecordChanged();
+    void build(const QString& searchedFor, const QString& xSQL);
+    void readList(const QString& searchedFor, QString xSQL);
     void readFailed(const std::exception& error);
+    void showRows();
+    QString whatIsShown() const;
 
     ListFacts facts_;
     Statement query_;
+    SearchPanel* pnlSearch_ = nullptr; // none without search terms
     velcro::ui::RowGrid* grid_ = nullptr;
-    QFrame* panel_ = nullptr;
-    QLabel* functionsHeading_ = nullptr;
-    QLabel* rowCount_ = nullptr;
-    velcro::ui::KeyButton* mainButton_ = nullptr;
+    QWidget* above_ = nullptr;
+    QWidget* beside_ = nullptr;
+    QFrame* options_ = nullptr;     // on the left
+    QVBoxLayout* panel_ = nullptr;  // its buttons
+    QVBoxLayout* column_ = nullptr; // search, what stands above, grid, navigation
+    QBoxLayout* sides_ = nullptr;
+    RecordBar* records_ = nullptr;
+    velcro::ui::KeyButton* enterButton_ = nullptr;
+    std::vector<velcro::ui::KeyButton*> recordButtons_;
+    QString searchedFor_;          // blank while the whole list is shown
+    std::optional<int> wholeRows_; // of the whole list, once it was read uncapped
 };
 
-/// A list whose rows are added, changed and deleted in a detail screen: Insert, the row's own key and
-/// Delete.
+/// A list whose rows are added, changed and deleted in a detail screen.
 class MaintenanceList : public ListScreen
 {
     Q_OBJECT
@@ -123,18 +162,22 @@ public:
     virtual void ShowDetailForm(int xFunction);
 
 protected:
-    /// Shows the detail screen modally and frees it.
+    /// Shows the detail screen; see showDetail.
     virtual void openDetail(int xFunction, int xRecID) = 0;
 
-    struct Captions
-    {
-        QString add;
-        QString update;
-        QString remove;
-    };
-    void addMaintenance(const Captions& captions, const QString& updateKeyCap);
+    ButtonFacts addButton(const QString& caption);
+    ButtonFacts updateButton(const QString& caption, const QKeySequence& key = Qt::Key_Return);
+    ButtonFacts deleteButton(const QString& caption);
 
-    velcro::ui::KeyButton* btnAdd = nullptr;
-    velcro::ui::KeyButton* btnUpdate = nullptr;
-    velcro::ui::KeyButton* btnDelete = nullptr;
+    /// Shows a detail screen of this class modally and frees it. hand over: what it is given besides
+    /// its mode and row.
+    template <typename Detail>
+    void showDetail(
+        int xFunction, int xRecID, const std::function<void(Detail&)>& handOver = [](Detail&) {}) {
+        Detail detail(this);
+        detail.xFunction = xFunction;
+        detail.xRecID = xRecID;
+        handOver(detail);
+        velcro::ui::runModal(detail);
+    }
 };

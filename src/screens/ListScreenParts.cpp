@@ -1,207 +1,278 @@
 // How the parts of a list screen stand: the panel of buttons on the left, the grid with everything
 // else, first to last below it, the search panel that drops in above it.
 #include "screens/ListScreen.h"
+#include "screens/RecordBar.h"
 #include "screens/ScreenServices.h"
-#include "ui/Icons.h"
+#include "screens/SearchPanel.h"
 #include "ui/Theme.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 using velcro::ui::connectHandler;
 using velcro::ui::KeyButton;
 using velcro::ui::RowGrid;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int margin = 8;
-constexpr int panelWidth = 206;
 
-QLabel* heading(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setProperty("role", "heading");
-    return label;
-}
+/// Buttons below each other, as wide as their captions want. They scroll where the screen is low.
+class ButtonArea : public QScrollArea
+{
+public:
+    explicit ButtonArea(QWidget* parent)
+        : QScrollArea(parent) {
+        auto* inside = new QWidget;
+        column_ = new QVBoxLayout(inside);
+        column_->setContentsMargins(margin, margin, margin, margin);
+        setObjectName(u"scrOptions"_s);
+        setWidget(inside);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    }
+    QVBoxLayout* column() { return column_; }
+
+    // A button that is hidden now has its room already.
+    QSize sizeHint() const override {
+        int width = 0;
+        for (const auto* button : findChildren<KeyButton*>()) {
+            width = std::max(width, button->sizeHint().width());
+        }
+        const int height = column_->sizeHint().height();
+        const bool scrolls = isVisible() && this->height() < height;
+        return {width + 2 * margin + (scrolls ? verticalScrollBar()->sizeHint().width() : 0),
+                height};
+    }
+    QSize minimumSizeHint() const override {
+        return {sizeHint().width(), 3 * velcro::ui::touchHeight};
+    }
+
+protected:
+    // Room for the scroll bar comes and goes with it.
+    void resizeEvent(QResizeEvent* event) override {
+        QScrollArea::resizeEvent(event);
+        updateGeometry();
+    }
+
+private:
+    QVBoxLayout* column_;
+};
 
 } // namespace
 
 void ListScreen::makePanel() {
-    panel_ = new QFrame(this);
-    panel_->setObjectName(QStringLiteral("pnlOptions"));
-    panel_->setFixedWidth(panelWidth);
-    auto* buttons = new QVBoxLayout(panel_);
-    buttons->setContentsMargins(margin, margin, margin, margin);
-    buttons->addWidget(heading(QStringLiteral("OPTIONS"), panel_));
-    functionsHeading_ = heading(QStringLiteral("FUNCTIONS"), panel_);
-    functionsHeading_->setContentsMargins(0, 2 * margin, 0, 0);
-    buttons->addWidget(functionsHeading_);
-    buttons->addStretch(1);
-    auto* close = newButton(QStringLiteral("btnCancel"), QStringLiteral("Close Window"),
-                            QStringLiteral("ESC"));
-    close->setInPanel(true);
-    connectHandler(close, &KeyButton::clicked, this, &ListScreen::reject);
-    buttons->addWidget(close);
+    options_ = new QFrame(this);
+    options_->setObjectName(u"pnlOptions"_s);
+    auto* whole = new QVBoxLayout(options_);
+    whole->setContentsMargins(0, 0, 0, margin);
+    auto* area = new ButtonArea(options_);
+    panel_ = area->column();
+    whole->addWidget(area, 1);
+    sides_ = new QHBoxLayout;
+    sides_->setSpacing(0);
+    sides_->addWidget(options_);
+    body().addLayout(sides_);
+}
 
-    makeGrid();
-    auto* right = new QVBoxLayout;
-    right->setContentsMargins(margin, margin, margin, margin);
-    right->setSpacing(margin);
-    if (!facts_.searchFragments.isEmpty()) {
-        makeSearchPanel();
-        right->addWidget(pnlSearch);
+void ListScreen::addHeading(const QString& text) {
+    auto* label = new QLabel(text, this);
+    label->setProperty("role", "heading");
+    label->setContentsMargins(0, panel_->isEmpty() ? 0 : 2 * margin, 0, 0);
+    panel_->addWidget(label);
+}
+
+void ListScreen::addToPanel(const ButtonFacts& facts) {
+    auto* button = makeButton(*this, facts, PlainEnter::StaysWithForm);
+    button->setInPanel(true);
+    panel_->addWidget(button);
+    if (facts.needsRecord && facts.handler) {
+        recordButtons_.push_back(button);
     }
-    right->addWidget(grid_, 1);
-    right->addLayout(makeNavigation());
-    auto* sides = new QHBoxLayout;
-    sides->setSpacing(0);
-    sides->addWidget(panel_);
-    sides->addLayout(right, 1);
-    body().addLayout(sides);
+    if (isPlainEnter(facts.key)) {
+        enterButton_ = button;
+    }
+}
+
+void ListScreen::setButtons(const ListButtons& buttons) {
+    addHeading(u"OPTIONS"_s);
+    for (const auto& facts : buttons.options) {
+        addToPanel(facts);
+    }
+    if (!buttons.functions.isEmpty()) {
+        addHeading(u"FUNCTIONS"_s);
+    }
+    for (const auto& facts : buttons.functions) {
+        addToPanel(facts);
+    }
+    panel_->addStretch(1);
+    // Esc closes what is open on top first.
+    auto* close = makeButton(*this, {.name = buttons.closeName,
+                                     .caption = buttons.closeCaption,
+                                     .handler = [this] { reject(); },
+                                     .cap = u"ESC"_s});
+    close->setInPanel(true);
+    auto* foot = new QHBoxLayout; // in sight also where the buttons above it scroll
+    foot->setContentsMargins(margin, 0, margin, 0);
+    foot->addWidget(close);
+    static_cast<QVBoxLayout*>(options_->layout())->addLayout(foot);
+}
+
+void ListScreen::makeRight() {
+    column_ = new QVBoxLayout;
+    column_->setContentsMargins(margin, margin, margin, margin);
+    column_->setSpacing(margin);
+    if (!facts_.search.terms.isEmpty()) {
+        makeSearchPanel();
+        column_->addWidget(pnlSearch_);
+    }
+    makeGrid();
+    column_->addWidget(grid_, 1);
+    records_ = new RecordBar(*this, *grid_, newTechHelpButton());
+    column_->addWidget(records_);
+    sides_->addLayout(column_, 1);
+}
+
+QWidget& ListScreen::above() {
+    if (above_ == nullptr) {
+        above_ = new QWidget(this);
+        above_->setObjectName(u"pnlAbove"_s);
+        column_->insertWidget(column_->indexOf(grid_), above_);
+    }
+    return *above_;
+}
+
+QWidget& ListScreen::beside() {
+    if (beside_ == nullptr) {
+        beside_ = new QWidget(this);
+        beside_->setObjectName(u"pnlBeside"_s);
+        sides_->addWidget(beside_, 1);
+    }
+    return *beside_;
+}
+
+// The grid comes before the buttons of the panel, since it has the focus when the screen opens.
+void ListScreen::orderTabs() {
+    QWidget* before = nullptr;
+    const auto add = [&before](QWidget* next) {
+        if ((next->focusPolicy() & Qt::TabFocus) != 0) {
+            if (before != nullptr) {
+                setTabOrder(before, next);
+            }
+            before = next;
+        }
+    };
+    for (QWidget* part :
+         {static_cast<QWidget*>(pnlSearch_), above_, static_cast<QWidget*>(grid_), beside_,
+          static_cast<QWidget*>(options_), static_cast<QWidget*>(records_)}) {
+        if (part == grid_) {
+            add(grid_);
+        } else if (part != nullptr) {
+            for (auto* control : part->findChildren<QWidget*>()) {
+                add(control);
+            }
+        }
+    }
 }
 
 void ListScreen::makeGrid() {
+    auto columns = facts_.columns;
+    for (auto column : facts_.hidden) {
+        column.visible = false;
+        columns.push_back(std::move(column));
+    }
     grid_ = new RowGrid(this);
-    grid_->setObjectName(QStringLiteral("grdList"));
+    grid_->setObjectName(u"grdList"_s);
     grid_->setAccessibleName(windowTitle());
     grid_->rowModel().setCellReader(cellText);
-    grid_->setColumns(facts_.columns);
+    grid_->setColumns(std::move(columns));
     connectHandler(grid_, &RowGrid::rowChosen, this, [this] { rowChosen(); });
-    connectHandler(grid_, &RowGrid::currentRecordChanged, this, [this] {
-        if (const auto row = grid_->currentResultRow()) {
-            query_.setRecNo(static_cast<int>(*row) + 1);
-        }
-    });
+    connectHandler(grid_, &RowGrid::clicked, this, [this] { rowClicked(); });
+    connectHandler(grid_, &RowGrid::currentRecordChanged, this, [this] { currentRecordChanged(); });
     makeGridMenu();
 }
 
 void ListScreen::makeGridMenu() {
     grid_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    const auto add = [this](const char* name, const char* text, bool enabled, auto handler) {
-        auto* action = new QAction(QString::fromLatin1(text), grid_);
-        action->setObjectName(QString::fromLatin1(name));
+    const auto add = [this](const QString& name, const QString& text, bool enabled, auto handler) {
+        auto* action = new QAction(text, grid_);
+        action->setObjectName(name);
         action->setEnabled(enabled);
         connectHandler(action, &QAction::triggered, this, handler);
         grid_->addAction(action);
     };
-    add("acGridCustom", "Customise Grid", bool(gScreenServices.gridCustom),
+    add(u"acGridCustom"_s, u"Customise Grid"_s, bool(gScreenServices.gridCustom),
         [this] { gScreenServices.gridCustom(*grid_, unitName()); });
-    add("acGridPrint", "Print Grid", true, [this] { btnPrintClick(); });
-    add("acGridExcel", "Export Grid to Excell", bool(gScreenServices.exportExcell),
+    add(u"acGridPrint"_s, u"Print Grid"_s, true, [this] { btnPrintClick(); });
+    add(u"acGridExcel"_s, u"Export Grid to Excell"_s, bool(gScreenServices.exportExcell),
         [this] { gScreenServices.exportExcell(*grid_, unitName()); });
 }
 
 void ListScreen::makeSearchPanel() {
-    pnlSearch = new QFrame(this);
-    pnlSearch->setObjectName(QStringLiteral("pnlSearch"));
-    edSearchText = new QLineEdit(pnlSearch);
-    edSearchText->setObjectName(QStringLiteral("edSearchText"));
-    auto* label = new QLabel(QStringLiteral("Search &Text"), pnlSearch);
-    label->setBuddy(edSearchText);
-    edSearchText->setAccessibleName(QStringLiteral("Search Text"));
-    btnSearch = newButton(QStringLiteral("btnSearch"), QStringLiteral("Search"), {});
-    btnSearch->setRole(KeyButton::Role::Main);
-    auto* close =
-        newButton(QStringLiteral("btnSearchClose"), QStringLiteral("Close"), QStringLiteral("ESC"));
-    connectHandler(btnSearch, &KeyButton::clicked, this, [this] { btnSearchClick(); });
-    connectHandler(close, &KeyButton::clicked, this, [this] { hideSearch(); });
-    connectHandler(edSearchText, &QLineEdit::returnPressed, this, [this] { searchEntered(); });
-    auto* row = new QHBoxLayout(pnlSearch);
-    row->addWidget(label);
-    row->addWidget(edSearchText, 1);
-    row->addWidget(btnSearch);
-    row->addWidget(close);
-    pnlSearch->hide();
-}
-
-QHBoxLayout* ListScreen::makeNavigation() {
-    struct Step
-    {
-        const char* name;
-        const char* caption;
-        void (RowGrid::*go)();
-    };
-    static constexpr Step steps[] = {
-        {"btnFirst", "First", &RowGrid::first},
-        {"btnPrev", "Previous", &RowGrid::previous},
-        {"btnNext", "Next", &RowGrid::next},
-        {"btnLast", "Last", &RowGrid::last},
-    };
-    auto* row = new QHBoxLayout;
-    row->setSpacing(margin);
-    for (const auto& step : steps) {
-        auto* button =
-            newButton(QString::fromLatin1(step.name), QString::fromLatin1(step.caption), {});
-        connectHandler(button, &KeyButton::clicked, grid_, step.go);
-        row->addWidget(button);
+    pnlSearch_ = new SearchPanel(this, facts_.search.alsoKeys);
+    connectHandler(pnlSearch_, &SearchPanel::searchAsked, this, [this] { btnSearchClick(); });
+    connectHandler(pnlSearch_, &SearchPanel::entered, this, [this] { searchEntered(); });
+    connectHandler(pnlSearch_, &SearchPanel::closeAsked, this, [this] { hideSearch(); });
+    if (facts_.search.onLeaving) {
+        pnlSearch_->watchLeaving();
+        connectHandler(pnlSearch_, &SearchPanel::left, this, [this] { btnSearchClick(); });
     }
-    row->addStretch(1);
-    rowCount_ = new QLabel(this);
-    rowCount_->setObjectName(QStringLiteral("lblRowCount"));
-    row->addWidget(rowCount_);
-    row->addWidget(newTechHelpButton());
-    return row;
 }
 
-KeyButton* ListScreen::addToPanel(int position, const QString& name, const QString& caption,
-                                  const QString& keyCap) {
-    auto* button = newButton(name, caption, keyCap);
-    button->setInPanel(true);
-    auto* buttons = static_cast<QVBoxLayout*>(panel_->layout());
-    buttons->insertWidget(position, button);
-    // Tab goes down the panel in the order that is seen.
-    QWidget* before = grid_;
-    for (int i = 0; i < buttons->count(); ++i) {
-        if (auto* widget = qobject_cast<KeyButton*>(buttons->itemAt(i)->widget())) {
-            setTabOrder(before, widget);
-            before = widget;
-        }
-    }
-    return button;
+ButtonFacts ListScreen::searchButton() {
+    return {.name = u"btnLookup"_s,
+            .caption = u"&Search"_s,
+            .handler = [this] { btnLookupClick(); },
+            .hint = u"Search [CTRL-S]"_s,
+            .icon = u"search"_s};
 }
 
-KeyButton* ListScreen::addOption(const QString& name, const QString& caption,
-                                 const QString& keyCap) {
-    return addToPanel(panel_->layout()->indexOf(functionsHeading_), name, caption, keyCap);
+ButtonFacts ListScreen::restoreButton(const QList<QKeySequence>& alsoKeys) {
+    return {.name = u"btnRestoreGrid"_s,
+            .caption = u"Restore Grid"_s,
+            .key = Qt::CTRL | Qt::Key_R,
+            .handler = [this] { BuildGrid(); },
+            .alsoKeys = alsoKeys};
 }
 
-KeyButton* ListScreen::addFunction(const QString& name, const QString& caption,
-                                   const QString& keyCap) {
-    // Before the stretch and the close button.
-    return addToPanel(panel_->layout()->count() - 2, name, caption, keyCap);
+ButtonFacts ListScreen::printButton() {
+    return {.name = u"btnPrint"_s,
+            .caption = u"Print Grid"_s,
+            .key = Qt::CTRL | Qt::Key_P,
+            .handler = [this] { btnPrintClick(); }};
 }
 
-void ListScreen::setMainButton(KeyButton* button) {
-    mainButton_ = button;
-    button->setRole(KeyButton::Role::Main);
+ButtonFacts MaintenanceList::addButton(const QString& caption) {
+    return {.name = u"btnAdd"_s, .caption = caption, .key = Qt::Key_Insert, .handler = [this] {
+                ShowDetailForm(1);
+            }};
 }
 
-void ListScreen::addSearch(const QString& keyCap) {
-    auto* button = addFunction(QStringLiteral("btnLookup"), QStringLiteral("&Search"), {});
-    button->setAccessibleName(QStringLiteral("Search"));
-    button->setIcon(velcro::ui::icon(QStringLiteral("search")));
-    button->setToolTip(QStringLiteral("Search [%1]").arg(keyCap));
-    connectHandler(button, &KeyButton::clicked, this, [this] { btnLookupClick(); });
-    // A button acts on its underlined letter only after it was seen going down. The text that is
-    // typed next would be lost until then.
-    button->setShortcut({});
-    bindKey(QKeySequence(Qt::ALT | Qt::Key_S), button);
-    btnSearch->setKeyCap(keyCap);
+ButtonFacts MaintenanceList::updateButton(const QString& caption, const QKeySequence& key) {
+    return {.name = u"btnUpdate"_s,
+            .caption = caption,
+            .key = key,
+            .handler = [this] { ShowDetailForm(2); },
+            .needsRecord = true,
+            .role = isPlainEnter(key) ? ButtonFacts::Role::Main : ButtonFacts::Role::Plain};
 }
 
-void ListScreen::addRestore(const QString& keyCap, const QKeySequence& key) {
-    btnRestoreGrid =
-        addFunction(QStringLiteral("btnRestoreGrid"), QStringLiteral("Restore Grid"), keyCap);
-    connectHandler(btnRestoreGrid, &KeyButton::clicked, this, [this] { BuildGrid(); });
-    bindKey(key, this, [this] { BuildGrid(); });
-}
-
-void ListScreen::addPrint() {
-    auto* button = addFunction(QStringLiteral("btnPrint"), QStringLiteral("Print Grid"),
-                               QStringLiteral("CTRL-P"));
-    connectHandler(button, &KeyButton::clicked, this, [this] { btnPrintClick(); });
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_P), button);
+ButtonFacts MaintenanceList::deleteButton(const QString& caption) {
+    return {.name = u"btnDelete"_s,
+            .caption = caption,
+            .key = Qt::Key_Delete,
+            .handler = [this] { ShowDetailForm(3); },
+            .needsRecord = true,
+            .role = ButtonFacts::Role::Danger};
 }

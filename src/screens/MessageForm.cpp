@@ -3,13 +3,16 @@
 #include "screens/SysFuncGlobal.h"
 #include "ui/Icons.h"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+
+namespace {
+constexpr int buttonWidth = 140; // the short words on them leave nothing to aim at
+}
 
 MessageForm::MessageForm(const MessageLook& look) {
     setObjectName(QLatin1String(look.unit));
@@ -91,28 +94,18 @@ QLabel* MessageForm::addFact(const QString& name, const QString& title, const QS
     return label;
 }
 
-QPushButton* MessageForm::addButton(const QString& name, const QString& caption,
-                                    const QString& key) {
-    auto* button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    button->setMinimumSize(140, 44);
-    sfg_ImageKeybd16(*button, key);
-    if (!button->icon().isNull() && !caption.startsWith(QLatin1Char(' '))) {
-        button->setText(QLatin1Char(' ') + caption); // off the key cap
-    }
+QPushButton* MessageForm::addButton(const ButtonFacts& facts) {
+    auto* button = makeButton(*this, facts);
+    button->setMinimumWidth(buttonWidth);
     buttons_->addWidget(button);
     return button;
 }
 
-QPushButton* MessageForm::addCloseButton(const QString& caption) {
-    auto* button = addButton(QStringLiteral("btnClose"), caption, QStringLiteral("ENTER"));
-    connect(button, &QPushButton::clicked, this, &QDialog::accept);
-    auto* acClose = new QAction(this);
-    acClose->setObjectName(QStringLiteral("acClose"));
-    acClose->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
-    connect(acClose, &QAction::triggered, button, [button] { button->click(); });
-    addAction(acClose);
+QPushButton* MessageForm::addCloseButton() {
+    auto* button = addButton({.name = QStringLiteral("btnClose"),
+                              .caption = tr("Close"),
+                              .key = Qt::Key_Return,
+                              .handler = [this] { accept(); }});
     button->setFocus();
     return button;
 }

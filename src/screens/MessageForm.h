@@ -2,6 +2,8 @@
 // text, and a row of large buttons.
 #pragma once
 
+#include "screens/Buttons.h"
+
 #include <QColor>
 #include <QDialog>
 
@@ -36,9 +38,9 @@ protected:
     /// On a line of its own, or beside other facts in a row that the caller gives.
     QLabel* addFact(const QString& name, const QString& title, const QString& value,
                     QHBoxLayout* beside = nullptr);
-    QPushButton* addButton(const QString& name, const QString& caption, const QString& key);
+    QPushButton* addButton(const ButtonFacts& facts);
     /// btnClose, which Enter clicks from anywhere on the form.
-    QPushButton* addCloseButton(const QString& caption);
+    QPushButton* addCloseButton();
     QVBoxLayout& body() { return *body_; }
     QHBoxLayout& buttons() { return *buttons_; }
     /// Places the form in the middle of the screen.

@@ -13,8 +13,6 @@
 
 #include <algorithm>
 
-using velcro::ui::KeyButton;
-
 namespace {
 
 constexpr int messagePanel = 1; // message panels are counted from here, whatever stands before them
@@ -65,14 +63,6 @@ void Screen::resetStatusBar() {
     sfg_ResetStatusBar(*statusBar_, messagePanel);
 }
 
-KeyButton* Screen::newButton(const QString& name, const QString& caption, const QString& keyCap) {
-    auto* button = new KeyButton(caption, this);
-    button->setObjectName(name);
-    button->setAccessibleName(caption.simplified());
-    button->setKeyCap(keyCap);
-    return button;
-}
-
 QToolButton* Screen::newTechHelpButton() {
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("btnTechHelp"));
@@ -84,10 +74,6 @@ QToolButton* Screen::newTechHelpButton() {
     button->setVisible(!inSystemMenu_);
     velcro::ui::connectHandler(button, &QToolButton::clicked, this, [this] { techHelp(); });
     return button;
-}
-
-void Screen::bindKey(const QKeySequence& key, QAbstractButton* button) {
-    bindKey(key, button, [button] { button->click(); });
 }
 
 void Screen::showEvent(QShowEvent* event) {

@@ -2,8 +2,8 @@
 // that click buttons, and the technical reference.
 #pragma once
 
+#include "screens/Buttons.h"
 #include "ui/Handler.h"
-#include "ui/KeyButton.h"
 #include "ui/StatusBar.h"
 
 #include <QDialog>
@@ -36,18 +36,15 @@ protected:
 
     /// Everything above the status bar goes here.
     QVBoxLayout& body() { return *body_; }
-    velcro::ui::KeyButton* newButton(const QString& name, const QString& caption,
-                                     const QString& keyCap);
     /// The technical reference, for windows whose title bar cannot hold it.
     QToolButton* newTechHelpButton();
 
+    /// For what no button stands for.
     template <typename Receiver, typename Handler>
     void bindKey(const QKeySequence& key, Receiver* receiver, Handler handler) {
         velcro::ui::connectHandler(new QShortcut(key, this), &QShortcut::activated, receiver,
                                    handler);
     }
-    /// The key does what a click on the button does, and nothing while the button is disabled.
-    void bindKey(const QKeySequence& key, QAbstractButton* button);
 
     void showEvent(QShowEvent* event) override;
     bool nativeEvent(const QByteArray& eventType, void* message, qintptr* result) override;

@@ -2,39 +2,43 @@
 
 #include "data/DataUVEL.h"
 
-using velcro::ui::connectHandler;
 using velcro::ui::KeyButton;
 
-SelectionScreen::SelectionScreen(ListFacts facts, SelectionRead read,
-                                 std::vector<PickedField> picked, QWidget* parent)
+namespace {
+
+void take(const Field& from, QString* into) {
+    *into = from.AsString();
+}
+
+void take(const Field& from, int* into) {
+    *into = from.AsInteger();
+}
+
+void take(const Field& from, double* into) {
+    *into = from.AsFloat();
+}
+
+} // namespace
+
+SelectionScreen::SelectionScreen(ListFacts facts, std::vector<PickedField> picked, QWidget* parent)
     : ListScreen(std::move(facts), gData->Velmara, parent)
-    , read_(std::move(read))
     , picked_(std::move(picked)) {
-    btnSelect =
-        addOption(QStringLiteral("btnSelect"), QStringLiteral("Select"), QStringLiteral("ENTER"));
-    connectHandler(btnSelect, &KeyButton::clicked, this, [this] { btnSelectClick(); });
-    setMainButton(btnSelect);
-    addSearch(QStringLiteral("CTRL-S"));
-    addRestore(QStringLiteral("CTRL-R"), Qt::Key_F12);
-    // What the caps promise, beside the function keys.
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_S), this, [this] { btnSearchClick(); });
-    bindKey(QKeySequence(Qt::CTRL | Qt::Key_R), this, [this] { BuildGrid(); });
-    bindKey(Qt::Key_F4, this, [this] { btnSearchClick(); });
     // Both page keys step one record back, wherever the focus is.
     bindKey(Qt::Key_PageUp, this, [this] { grid().previous(); });
     bindKey(Qt::Key_PageDown, this, [this] { grid().previous(); });
 }
 
-QStringList SelectionScreen::statementLines(const QString& xSQL) const {
-    if (xSQL.trimmed().isEmpty()) {
-        return read_.whole + read_.scope + QStringList(read_.order);
-    }
-    return read_.search + read_.scope + QStringList(xSQL);
+ButtonFacts SelectionScreen::selectButton(const QString& caption, const QString& name) {
+    return {.name = name,
+            .caption = caption,
+            .key = Qt::Key_Return,
+            .handler = [this] { btnSelectClick(); },
+            .role = ButtonFacts::Role::Main};
 }
 
 void SelectionScreen::FormShow() {
     for (const auto& picked : picked_) {
-        picked.field->clear();
+        std::visit([](auto* field) { *field = {}; }, picked.field);
     }
     ListScreen::FormShow();
 }
@@ -47,16 +51,22 @@ void SelectionScreen::hideKeyCaps() {
     }
 }
 
+void SelectionScreen::pickFrom(const Statement& row) {
+    for (const auto& picked : picked_) {
+        const auto from = row.FieldByName(QString::fromLatin1(picked.column));
+        std::visit([&from](auto* field) { take(from, field); }, picked.field);
+    }
+}
+
 void SelectionScreen::btnSelectClick() {
     if (!hasCurrentRecord()) {
-        nothingToTake();
+        nothingToPick();
         return;
     }
-    for (const auto& picked : picked_) {
-        *picked.field = query().FieldByName(QString::fromLatin1(picked.column)).AsString();
+    pickFrom(query());
+    if (rowPicked()) {
+        accept();
     }
-    takeRecord();
-    accept();
 }
 
 void SelectionScreen::rowChosen() {

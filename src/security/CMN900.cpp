@@ -21,17 +21,15 @@ TfrmCMN900::TfrmCMN900()
     edSuperCode =
         addCode(QStringLiteral("edSuperCode"), QStringLiteral("Supervisor Code"), anyLength);
     edSuperPswd = addPassword(QStringLiteral("edSuperPswd"), QStringLiteral("Password"), anyLength);
-    auto* btnProceed = addButton(QStringLiteral("btnProceed"), QStringLiteral("   &Proceed"),
-                                 QStringLiteral("F10"));
-    btnProceed->setRole(velcro::ui::KeyButton::Role::Main);
-    auto* btnCancel =
-        addButton(QStringLiteral("btnCancel"), QStringLiteral("   &Cancel"), QStringLiteral("ESC"));
-    velcro::ui::connectHandler(btnProceed, &QPushButton::clicked, this,
-                               &TfrmCMN900::btnProceedClick);
-    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
-                               [this] { finish(QStringLiteral("CANCEL")); });
-    bindKey(Qt::Key_F10, btnProceed);
-    bindKey(Qt::Key_Escape, btnCancel);
+    addButton({.name = QStringLiteral("btnProceed"),
+               .caption = QStringLiteral("   &Proceed"),
+               .key = Qt::Key_F10,
+               .handler = [this] { btnProceedClick(); },
+               .role = ButtonFacts::Role::Main});
+    addButton({.name = QStringLiteral("btnCancel"),
+               .caption = QStringLiteral("   &Cancel"),
+               .key = Qt::Key_Escape,
+               .handler = [this] { finish(QStringLiteral("CANCEL")); }});
 }
 
 void TfrmCMN900::FormShow() {

@@ -24,14 +24,15 @@ TfrmCMN901::TfrmCMN901()
     setWindowTitle(QStringLiteral("Double Supervisor Over-Ride Required"));
     addSupervisor(supervisors_[0], QStringLiteral("1"), QStringLiteral("First Supervisor"));
     addSupervisor(supervisors_[1], QStringLiteral("2"), QStringLiteral("Second Supervisor"));
-    auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral(" Proceed"), QString());
-    btnOK->setRole(velcro::ui::KeyButton::Role::Main);
-    auto* btnCancel =
-        addButton(QStringLiteral("btnCancel"), QStringLiteral("Cancel"), QStringLiteral("ESC"));
-    velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN901::btnOKClick);
-    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
-                               [this] { finish(QStringLiteral("CANCEL")); });
-    bindKey(Qt::Key_Escape, btnCancel);
+    addButton({.name = QStringLiteral("btnOK"),
+               .caption = QStringLiteral(" Proceed"),
+               .handler = [this] { btnOKClick(); },
+               .role = ButtonFacts::Role::Main,
+               .cap = QStringLiteral("F10")});
+    addButton({.name = QStringLiteral("btnCancel"),
+               .caption = QStringLiteral("Cancel"),
+               .key = Qt::Key_Escape,
+               .handler = [this] { finish(QStringLiteral("CANCEL")); }});
 }
 
 void TfrmCMN901::addSupervisor(Supervisor& supervisor, const QString& xNo, const QString& title) {

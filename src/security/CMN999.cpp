@@ -74,7 +74,6 @@ TfrmCMN999::TfrmCMN999()
     edUserPswd = addPassword(QStringLiteral("edUserPswd"), QStringLiteral("Password"));
     onEnter(edUserPswd, [this] { edUserPswdEnter(); });
     makeButtons();
-    bindKey(Qt::Key_F1, this, &TfrmCMN999::acSelectDB);
     for (auto* label : findChildren<QLabel*>()) {
         if (label->buddy() == cmbDatabase) {
             companyLabel_ = label;
@@ -101,23 +100,24 @@ void TfrmCMN999::resizeEvent(QResizeEvent* event) {
 }
 
 void TfrmCMN999::addPickButton() {
-    auto* pick = new velcro::ui::KeyButton(QStringLiteral("Find Company"), this);
-    pick->setObjectName(QStringLiteral("btnSelectDB"));
-    pick->setAccessibleName(QStringLiteral("Find Company"));
-    pick->setKeyCap(QStringLiteral("F1"));
+    auto* pick = makeButton(*this, {.name = QStringLiteral("btnSelectDB"),
+                                    .caption = QStringLiteral("Find Company"),
+                                    .key = Qt::Key_F1,
+                                    .handler = [this] { acSelectDB(); }});
     pick->setFocusPolicy(Qt::NoFocus);
     pick->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form().beside().control(pick, QStringLiteral("btnSelectDB"), QString());
-    velcro::ui::connectHandler(pick, &QPushButton::clicked, this, &TfrmCMN999::acSelectDB);
 }
 
 void TfrmCMN999::makeButtons() {
-    auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral("OK"), QStringLiteral("ENTER"));
-    btnOK->setRole(velcro::ui::KeyButton::Role::Main);
-    auto* btnCancel = addButton(QStringLiteral("btnCancel"), QStringLiteral("&Cancel"), QString());
-    velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN999::btnOKClick);
-    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
-                               [this] { finish(QStringLiteral("CANCEL")); });
+    addButton({.name = QStringLiteral("btnOK"),
+               .caption = QStringLiteral("OK"),
+               .handler = [this] { btnOKClick(); },
+               .role = ButtonFacts::Role::Main,
+               .cap = QStringLiteral("ENTER")}); // in the password
+    addButton({.name = QStringLiteral("btnCancel"),
+               .caption = QStringLiteral("&Cancel"),
+               .handler = [this] { finish(QStringLiteral("CANCEL")); }});
 }
 
 // A click on the combo's label opens the picker too.

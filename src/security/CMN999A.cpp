@@ -22,18 +22,18 @@ TfrmCMN999A::TfrmCMN999A(const QString& xUserCode)
     edPswd1 = addPassword(QStringLiteral("edPswd1"), QStringLiteral("New Password"));
     edPswd2 = addPassword(QStringLiteral("edPswd2"), QStringLiteral("Confirm Password"));
     onEnter(edPswd2, [this] { btnOKClick(); });
-    auto* btnShowPswd =
-        addButton(QStringLiteral("btnShowPswd"), QStringLiteral("Show Password"), QString());
-    auto* btnOK = addButton(QStringLiteral("btnOK"), QStringLiteral("OK"), QStringLiteral("ENTER"));
-    btnOK->setRole(velcro::ui::KeyButton::Role::Main);
-    auto* btnCancel =
-        addButton(QStringLiteral("btnCancel"), QStringLiteral("Cancel"), QStringLiteral("ESC"));
-    velcro::ui::connectHandler(btnShowPswd, &QPushButton::clicked, this,
-                               &TfrmCMN999A::btnShowPswdClick);
-    velcro::ui::connectHandler(btnOK, &QPushButton::clicked, this, &TfrmCMN999A::btnOKClick);
-    velcro::ui::connectHandler(btnCancel, &QPushButton::clicked, this,
-                               [this] { finish(QStringLiteral("CANCEL")); });
-    bindKey(Qt::Key_Escape, btnCancel);
+    addButton({.name = QStringLiteral("btnShowPswd"),
+               .caption = QStringLiteral("Show Password"),
+               .handler = [this] { btnShowPswdClick(); }});
+    addButton({.name = QStringLiteral("btnOK"),
+               .caption = QStringLiteral("OK"),
+               .handler = [this] { btnOKClick(); },
+               .role = ButtonFacts::Role::Main,
+               .cap = QStringLiteral("ENTER")}); // in the second password
+    addButton({.name = QStringLiteral("btnCancel"),
+               .caption = QStringLiteral("Cancel"),
+               .key = Qt::Key_Escape,
+               .handler = [this] { finish(QStringLiteral("CANCEL")); }});
 }
 
 void TfrmCMN999A::FormShow() {

@@ -48,10 +48,8 @@ QLineEdit* SignInForm::addPassword(const QString& name, const QString& label, in
     return edit;
 }
 
-velcro::ui::KeyButton* SignInForm::addButton(const QString& name, const QString& caption,
-                                             const QString& keyCap) {
-    auto* button = newButton(name, caption, keyCap);
-    button->setAutoDefault(false);
+velcro::ui::KeyButton* SignInForm::addButton(const ButtonFacts& facts) {
+    auto* button = makeButton(*this, facts);
     buttons_->addWidget(button);
     return button;
 }

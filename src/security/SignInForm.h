@@ -30,8 +30,8 @@ protected:
     QLineEdit* addCode(const QString& name, const QString& label, int limit = codeLength);
     /// The same, shown as "#".
     QLineEdit* addPassword(const QString& name, const QString& label, int limit = codeLength);
-    velcro::ui::KeyButton* addButton(const QString& name, const QString& caption,
-                                     const QString& keyCap);
+    /// In the row below the form.
+    velcro::ui::KeyButton* addButton(const ButtonFacts& facts);
     /// Enter in that edit runs the handler in place of going on.
     template <typename Handler>
     void onEnter(QLineEdit* edit, Handler handler) {

@@ -54,9 +54,13 @@ TfrmVEL710::TfrmVEL710()
     pages_ = new QTabWidget(this);
     pages_->setObjectName(QStringLiteral("pgReference"));
     pages_->setAccessibleName(QStringLiteral("Reference"));
-    btnSearch = newButton(QStringLiteral("btnSearch"), QStringLiteral("Search in Grid"), QString());
-    auto* btnClose =
-        newButton(QStringLiteral("btnClose"), QStringLiteral("Close"), QStringLiteral("ESC"));
+    btnSearch = makeButton(*this, {.name = QStringLiteral("btnSearch"),
+                                   .caption = QStringLiteral("Search in Grid"),
+                                   .handler = [this] { btnSearchClick(); }});
+    auto* btnClose = makeButton(*this, {.name = QStringLiteral("btnClose"),
+                                        .caption = QStringLiteral("Close"),
+                                        .key = Qt::Key_Escape,
+                                        .handler = [this] { btnCloseClick(); }});
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(12, 8, 12, 12);
     buttons->addWidget(btnSearch);
@@ -65,9 +69,6 @@ TfrmVEL710::TfrmVEL710()
     body().addWidget(header);
     body().addWidget(pages_, 1);
     body().addLayout(buttons);
-    velcro::ui::connectHandler(btnSearch, &QPushButton::clicked, this, &TfrmVEL710::btnSearchClick);
-    velcro::ui::connectHandler(btnClose, &QPushButton::clicked, this, &TfrmVEL710::btnCloseClick);
-    bindKey(Qt::Key_Escape, btnClose);
 }
 
 void TfrmVEL710::FormShow() {

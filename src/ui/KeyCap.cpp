@@ -171,6 +171,13 @@ const KeyCap* findKeyCap(const QString& key) {
     return found == std::end(caps) ? nullptr : &*found;
 }
 
+QString keyCapName(const QKeySequence& key) {
+    return key.toString(QKeySequence::PortableText)
+        .toUpper()
+        .replace(QLatin1Char('+'), QLatin1Char('-'))
+        .replace(QLatin1String("RETURN"), QLatin1String("ENTER"));
+}
+
 QIcon keyCapIcon(const QString& key, KeyCapStyle style) {
     const KeyCap* cap = findKeyCap(key);
     if (cap == nullptr) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QKeySequence>
 
 #include <span>
 
@@ -18,6 +19,9 @@ struct KeyCap
 std::span<const KeyCap> keyCaps();
 /// nullptr for a key that has no picture; case does not count.
 const KeyCap* findKeyCap(const QString& key);
+
+/// The name under which a key has its picture: "CTRL-P", "INS", "ENTER"; blank for no key.
+QString keyCapName(const QKeySequence& key);
 
 /// Blue caps stand on light screens, light ones on the dark main window.
 enum class KeyCapStyle { Blue, Light };

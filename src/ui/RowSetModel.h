@@ -18,10 +18,10 @@ struct GridColumn
 {
     QString field;        // column of the result; case does not count
     QString caption = {}; // blank: the field's name
-    bool visible = true;
     /// Turns the stored text into what is shown; none shows it as stored.
     QString (*display)(const QString& stored) = nullptr;
     bool numeric = false; // text that is to be sorted and aligned as numbers
+    bool visible = true;
 
     QString heading() const { return caption.isEmpty() ? field : caption; }
 };

@@ -136,6 +136,59 @@ TEST_F(SelectionTest, aScannerSearchesWithoutLosingALetter) {
     EXPECT_EQ(desk.shown, QStringList());
 }
 
+TEST_F(SelectionTest, leavingTheTextSearchesHoweverItIsLeftButByEsc) {
+    const struct
+    {
+        const char* how;
+        std::function<void()> leave;
+        bool searches;
+    } ways[] = {
+        {"Tab", [this] { user.press(Qt::Key_Tab); }, true},
+        {"Shift+Tab", [this] { user.press(Qt::Key_Tab, Qt::ShiftModifier); }, true},
+        {"a tap on the grid", [this] { user.click("grdList"); }, true},
+        {"a button beside the list", [this] { user.click("btnLast"); }, true},
+        {"the program", [this] { user.find<QWidget>("grdList").setFocus(); }, true},
+        {"Esc", [this] { user.press(Qt::Key_Escape); }, false},
+        {"the panel's close", [this] { user.click("btnSearchClose"); }, false},
+        {"Restore Grid", [this] { user.press(Qt::Key_F12); }, false},
+    };
+    user.expectForm(customers, [&] {
+        for (const auto& [how, leave, searches] : ways) {
+            user.press(Qt::Key_S, Qt::AltModifier);
+            user.type("C00002");
+            leave();
+            QCoreApplication::processEvents();
+            EXPECT_EQ(user.column("Account").size(), searches ? 1 : 2000) << how;
+            EXPECT_FALSE(user.find<QWidget>("pnlSearch").isVisible()) << how;
+            user.press(Qt::Key_F12);
+        }
+        user.press(Qt::Key_Escape);
+    });
+    cro_BrowseDEBMaster({});
+    EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(SelectionTest, aSearchReadsNoPasswordsAndDropsNoTable) {
+    const QString texts[] = {
+        "' UNION SELECT [UserCode], [UserPswd], '', '', '', '', '', '' FROM SYSUser --",
+        "x'; DROP TABLE DEBMaster --",
+    };
+    user.expectForm(customers, [&] {
+        for (const auto& text : texts) {
+            search(text);
+            EXPECT_EQ(user.column("Account"), QStringList()) << text.toStdString();
+            user.press(Qt::Key_F12);
+            EXPECT_EQ(user.column("Account").size(), 2000) << text.toStdString();
+        }
+        user.press(Qt::Key_Escape);
+    });
+    cro_BrowseDEBMaster({});
+    ASSERT_EQ(desk.shown.size(), 2);
+    EXPECT_EQ(desk.shown[1], "900-001|SQL Error on Table: DEBMaster :-\rUnclosed quotation mark "
+                             "after the character string '" +
+                                 texts[1] + "'.");
+}
+
 TEST_F(SelectionTest, keyCapsFollowTheSeatsParameter) {
     for (const char* value : {"N", "Y"}) {
         gParameters.clear();

@@ -47,10 +47,10 @@ class RowGridTest : public testing::Test
 protected:
     RowGridTest() {
         grid.setColumns({{"Name", "Customer"},
-                         {"Status", {}, true, statusText},
+                         {"Status", {}, statusText},
                          {"Items"},
                          {"Gone", "Not fetched"},
-                         {"Name", "Hidden copy", false}});
+                         {.field = "Name", .caption = "Hidden copy", .visible = false}});
         grid.setRows(
             orders({{"müller", "0", 9}, {"Adams", "X", 10}, {"Zed", "0", 100}, {"adams", "0", 2}}));
         grid.resize(700, 300);
