@@ -51,5 +51,6 @@ bool TtData::til_ExecSQL(int xMemoNo) {
                      .transaction = &VelmaraTILL,
                      .clearsErrorMsg = true,
                      .testsConnected = true,
+                     .lockIsThrown = true,
                      .onFailure = BatchRules::OnFailure::ErrorMessage});
 }

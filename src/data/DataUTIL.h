@@ -41,7 +41,8 @@ public:
     void Close_Query_TIL();
 
     /// Runs gSQL (xMemoNo 1) or gSQL2 in one transaction. Shows nothing: the reason of a false
-    /// result is in gErrorMsg. Not connected leaves the buffer as it is.
+    /// result is in gErrorMsg. Not connected leaves the buffer as it is. A database that others keep
+    /// locked is thrown as SqlError 1222: a sweep would wait anew with each of its statements.
     bool til_ExecSQL(int xMemoNo);
 
 private:

@@ -22,6 +22,12 @@ void report(const BatchRules& rules, const QString& reason) {
     }
 }
 
+bool isLockTimeout(const std::exception& error) {
+    constexpr int lockRequestTimeOut = 1222;
+    const auto* refused = dynamic_cast<const velcro::sql::SqlError*>(&error);
+    return refused != nullptr && refused->number() == lockRequestTimeOut;
+}
+
 } // namespace
 
 TextLines& statementBuffer(int xMemoNo) {
@@ -58,6 +64,9 @@ bool runBatch(TextLines& buffer, Statement& writer, const BatchRules& rules) {
             rules.transaction->rollbackAfterFailure();
         }
         writeFailureFile(rules.failureFile, text);
+        if (rules.lockIsThrown && isLockTimeout(error)) {
+            throw;
+        }
         report(rules, reason);
         return false;
     }

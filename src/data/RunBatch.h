@@ -21,11 +21,13 @@ struct BatchRules
     bool clearsErrorMsg = false; // at the start
     bool testsEmpty = true;      // an empty buffer is left alone; else it runs as an empty text
     bool testsConnected = false; // the buffer keeps its text when there is no connection
+    bool lockIsThrown = false;   // a database that others keep locked: the transaction cannot begin
     OnFailure onFailure = OnFailure::Silent;
 };
 
 /// Takes the buffer's text, empties it and runs it on the writer. False when it failed and was
-/// rolled back. An exception of the transaction's start is not caught.
+/// rolled back. An exception of the transaction's start is not caught; the stand-in's transaction
+/// only starts with its first change, which lockIsThrown allows for.
 bool runBatch(TextLines& buffer, Statement& writer, const BatchRules& rules);
 
 /// gSQL for 1, gSQL2 for any other number.

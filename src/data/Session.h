@@ -62,7 +62,7 @@ inline QString gSvrCatCode, gSvrCatString;
 inline std::array<QString, 51> gSvrCatArray; // 1 to 50; index 0 is not used
 
 // ---- the schema of the till database ----
-inline QString gTillDBVersion, gLocalDBVersion, gMinVelDBVersion;
+inline QString gTillDBVersion, gLocalDBVersion, gMinVelDBVersion, gDBVersion;
 
 // ---- the user ----
 inline QString gUserCode, gUserPswd, gUserName;

@@ -8,6 +8,7 @@
 #include "data/SessionFile.h"
 #include "data/StatementText.h"
 #include "data/TextHelpers.h"
+#include "schema/LiveSweep.h"
 #include "schema/SysTillDBMods.h"
 #include "screens/Combos.h"
 #include "screens/SysFuncGlobal.h"
@@ -60,6 +61,13 @@ public:
 
     bool keep = false;
 };
+
+// The version is recorded whatever became of the statements: what is missing waits for the next one.
+void sweepTill() {
+    const velcro::schema::LiveSweep live;
+    tb_Upgrade();
+    tb_Update_TillDBVersion(gTillDBVersion);
+}
 
 } // namespace
 
@@ -233,7 +241,7 @@ bool TfrmCMN999::tillDatabaseReady() {
     if (tillSchemaIsBehind()) {
         displayMessage(QStringLiteral("Warn"),
                        QStringLiteral("Local DB Upgrade in Progress.   Please wait....."));
-        tb_Upgrade();
+        sweepTill();
         resetStatusBar();
     }
     return true;

@@ -11,6 +11,7 @@
 #include "data/SysDataModel.h"
 #include "data/SysLoadData.h"
 #include "messaging/SysSendSMS.h"
+#include "schema/SysTillDBMods.h"
 #include "security/AccessCheck.h"
 #include "security/LogInRead.h"
 #include "security/SysLoadAccess.h"
@@ -198,6 +199,7 @@ bool runSteps(const QString& xCO, const QString& xBranch) {
     if (!sli_DBConnect()) {
         return false;
     }
+    tb_CheckDBVersions();
     gDBSPID = gData->VEL_GetSPID();
     if (!sli_VerifyUser()) {
         return false;

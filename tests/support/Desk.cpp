@@ -39,22 +39,32 @@ QString templateName() {
             newest = qMax(newest, script.lastModified().toSecsSinceEpoch());
         }
     }
-    for (const QString& program : provisioners) {
+    for (const QString& program : provisioners + QStringList{QStringLiteral(VELCRO_SWEEP)}) {
         newest = qMax(newest, QFileInfo(program).lastModified().toSecsSinceEpoch());
     }
     return QDate::currentDate().toString(QStringLiteral("yyyyMMdd-")) + QString::number(newest);
 }
 
-void provision(const QString& folder) {
+void run(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QStringLiteral(VELCRO_PROVISION), QStringList{folder} + provisioners);
+    process.start(program, arguments);
     if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit ||
         process.exitCode() != 0) {
         throw std::runtime_error(
             "The sample databases could not be made: " + process.errorString().toStdString() +
             "\n" + process.readAll().toStdString());
     }
+}
+
+// A seat that somebody has signed in at before: its till has been swept.
+void provision(const QString& folder) {
+    const QString work = folder + ".work";
+    QDir(work).removeRecursively();
+    run(QStringLiteral(VELCRO_PROVISION), QStringList{work} + provisioners);
+    run(QStringLiteral(VELCRO_SWEEP),
+        {"--run", "-S", "embedded:" + work + "/databases", "-d", "VELTILL"});
+    QDir().rename(work, folder);
 }
 
 // Made by the first test that needs it, for all of them, whatever program they are in.

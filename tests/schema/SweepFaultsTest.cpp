@@ -1,0 +1,178 @@
+// Sweeps that are killed, crowded, cut off or refused: the next one finishes the database, and no row
+// is lost.
+#include "schema/TillSeat.h"
+#include "support/ChildProcess.h"
+#include "support/DroppingServer.h"
+#include "support/FailureOf.h"
+#include "support/FullDisk.h"
+#include "support/OrdinaryUser.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+namespace fs = std::filesystem;
+using velcro::test::ChildProcess;
+using velcro::test::DroppingServer;
+using velcro::test::EmbeddedDatabase;
+using velcro::test::FullDisk;
+using velcro::test::OrdinaryUser;
+using velcro::test::schemaOf;
+using velcro::test::TempFolder;
+using velcro::test::TillSeat;
+
+namespace {
+
+const char* const parkedSale = "INSERT INTO POSParkHeader (CO, DocNo) VALUES ('01', 'P-1')";
+
+std::string folderOf(const EmbeddedDatabase& database) {
+    return database.folder().path().string();
+}
+
+int sweepOnce(const std::string& folder, const QString& name) {
+    TillSeat seat(folder, name);
+    seat.sweep();
+    return seat.refused.isEmpty() ? 0 : 1;
+}
+
+/// The schema after one sweep that nothing disturbs.
+const std::string& wholeSchema() {
+    static const std::string schema = [] {
+        EmbeddedDatabase database;
+        sweepOnce(folderOf(database), "SEAT1");
+        return schemaOf(database.connection());
+    }();
+    return schema;
+}
+
+} // namespace
+
+// VELCRO_KILLS says how often; a few each time the tests run, many by hand.
+TEST(SweepFaultsTest, aKilledSweepIsFinishedByTheNext) {
+    const char* wanted = std::getenv("VELCRO_KILLS");
+    const int kills = wanted == nullptr ? 3 : std::atoi(wanted);
+    const auto start = std::chrono::steady_clock::now();
+    wholeSchema();
+    const auto wholeSweep = std::chrono::steady_clock::now() - start;
+    std::srand(41);
+    int cutOff = 0;
+    for (int i = 0; i < kills; ++i) {
+        EmbeddedDatabase database;
+        const std::string folder = folderOf(database);
+        ChildProcess child([&](int) { return sweepOnce(folder, "SEAT1"); });
+        std::this_thread::sleep_for(wholeSweep * (std::rand() % 1000) / 1000);
+        child.kill();
+        cutOff += child.wait() == 128 + SIGKILL;
+        const std::string parked = database.answer(parkedSale);
+        EXPECT_EQ(sweepOnce(folder, "SEAT1"), 0);
+        EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema()) << "kill " << i;
+        EXPECT_EQ(database.answer("SELECT DocNo FROM POSParkHeader"), parked == "(1)" ? "P-1" : "");
+    }
+    EXPECT_GT(cutOff, 0) << "no sweep was cut off";
+}
+
+TEST(SweepFaultsTest, aTableThatWasCutOffFromItsKeyGetsIt) {
+    EmbeddedDatabase database;
+    ChildProcess child([&](int) {
+        TillSeat seat(folderOf(database));
+        velcro::schema::gSchemaWatch.afterSend = [](const QString& statement, bool) {
+            if (statement.startsWith("CREATE TABLE [dbo].[SYSAudit]")) {
+                std::raise(SIGKILL);
+            }
+        };
+        seat.sweep();
+        return 0;
+    });
+    EXPECT_EQ(child.wait(), 128 + SIGKILL);
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM sys.indexes I WHERE I.object_id ="
+                              " OBJECT_ID('SYSAudit') AND I.is_primary_key = 1"),
+              "0");
+    EXPECT_EQ(sweepOnce(folderOf(database), "SEAT1"), 0);
+    EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema());
+}
+
+TEST(SweepFaultsTest, twoSeatsSweepOneTillAtTheSameMoment) {
+    EmbeddedDatabase database;
+    const std::string folder = folderOf(database);
+    ChildProcess other([&](int) { return sweepOnce(folder, "SEAT2"); });
+    sweepOnce(folder, "SEAT1");
+    other.wait();
+    EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema());
+    EXPECT_EQ(database.answer("SELECT PCName, DBVersion FROM SYSTillControl ORDER BY PCName"),
+              "SEAT1|14.47.41;SEAT2|14.47.41");
+}
+
+TEST(SweepFaultsTest, aDiskThatIsFullHalfWayLosesNothing) {
+    EmbeddedDatabase database;
+    {
+        TillSeat seat(folderOf(database));
+        const FullDisk disk(500'000);
+        // What cannot be made is passed over; a look-up may find no room either.
+        failureOf([&] { seat.sweep(); });
+        EXPECT_FALSE(seat.refused.isEmpty());
+    }
+    EXPECT_EQ(database.answer(parkedSale), "(1)");
+    EXPECT_EQ(sweepOnce(folderOf(database), "SEAT1"), 0);
+    EXPECT_EQ(database.answer("SELECT DocNo FROM POSParkHeader"), "P-1");
+    EXPECT_EQ(database.answer("SELECT COUNT(*) FROM sys.tables"), "159");
+}
+
+TEST(SweepFaultsTest, aReadOnlyTillIsReadAndLeftAsItIs) {
+    EmbeddedDatabase database;
+    sweepOnce(folderOf(database), "SEAT1");
+    database.answer("DROP TABLE SYSAudit; UPDATE SYSTillControl SET DBVersion = '14.0'");
+    const std::string before = schemaOf(database.connection());
+    database.connection().disconnect();
+    const fs::path file = database.folder().file("Shop.sqlite");
+    fs::permissions(database.folder().path(), fs::perms(0777)); // the file alone is read-only
+    fs::permissions(file, fs::perms(0444));
+    ChildProcess child([&](int) {
+        const OrdinaryUser user;
+        TillSeat seat(folderOf(database));
+        const QString failure = failureOf([&] { seat.sweep(); });
+        return seat.sent.size() == seat.refused.size() && gErrorMsg.contains("read-only") &&
+                       failure == "no failure"
+                   ? 0
+                   : 1;
+    });
+    EXPECT_EQ(child.wait(), 0) << "refused in words";
+    fs::permissions(file, fs::perms(0666));
+    const auto again = database.open();
+    EXPECT_TRUE(schemaOf(*again) == before);
+    EXPECT_EQ(EmbeddedDatabase::answerOf(*again, "SELECT DBVersion FROM SYSTillControl"), "14.0");
+}
+
+TEST(SweepFaultsTest, aTillLockedByAnotherProgramEndsTheSweepInWords) {
+    EmbeddedDatabase database;
+    sweepOnce(folderOf(database), "SEAT1");
+    database.answer("DROP TABLE SYSAudit; UPDATE SYSTillControl SET DBVersion = '14.0'");
+    {
+        TillSeat seat(folderOf(database));
+        tData->VelmaraTILL.run("SET LOCK_TIMEOUT 1", {}); // else it waits for long
+        database.connection().begin();
+        database.answer(parkedSale);
+        EXPECT_TRUE(failureOf([&] { seat.sweep(); }).contains("Lock request time out"));
+        database.connection().commit();
+    }
+    EXPECT_EQ(database.answer("SELECT DBVersion FROM SYSTillControl"), "14.0");
+    EXPECT_EQ(sweepOnce(folderOf(database), "SEAT1"), 0);
+    EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema());
+    EXPECT_EQ(database.answer("SELECT DocNo FROM POSParkHeader"), "P-1");
+}
+
+TEST(SweepFaultsTest, aConnectionLostInTheMiddleIsTakenUpAgain) {
+    for (const int call : {7, 1500}) {
+        EmbeddedDatabase database;
+        DroppingServer server;
+        TillSeat seat(folderOf(database));
+        server.dropAt(call);
+        seat.sweep();
+        EXPECT_TRUE(server.dropped()) << call;
+        server.forget();
+        EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema()) << call;
+    }
+}
