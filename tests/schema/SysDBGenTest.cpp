@@ -8,6 +8,7 @@
 
 using velcro::test::EmbeddedDatabase;
 using velcro::test::FakeServer;
+using velcro::test::TempFolder;
 using velcro::test::TillSeat;
 
 namespace {
@@ -230,7 +231,8 @@ TEST(SysDBGenTest, aLookUpTellsTypeAndLength) {
 
 TEST(SysDBGenTest, aFailedLookUpIsToldInItsWords) {
     FakeServer server;
-    TillSeat seat("nowhere");
+    const TempFolder folder;
+    TillSeat seat(folder.path().string());
     const std::string tables = "SELECT * FROM INFORMATION_SCHEMA.[TABLES]  WHERE TABLE_NAME = 'T'";
     const QString columns = "SELECT * FROM INFORMATION_SCHEMA.[COLUMNS]  WHERE TABLE_NAME = 'T'"
                             "   AND COLUMN_NAME = 'A'";
@@ -269,7 +271,8 @@ TEST(SysDBGenTest, aFailedLookUpIsToldInItsWords) {
 
 TEST(SysDBGenTest, whatAnUnreachableServerLeftInTheBufferKeepsTheColumn) {
     FakeServer server;
-    TillSeat seat("nowhere");
+    const TempFolder folder;
+    TillSeat seat(folder.path().string());
     server.answer("[COLUMNS]", {"DATA_TYPE", "CHARACTER_MAXIMUM_LENGTH"}, {{"float", ""}});
     server.answer("sysconstraints", {"Constraint"}, {{"DF_1"}});
     sfg_AddSQL("UPDATE LEFT BEHIND", "NEW");
