@@ -20,7 +20,6 @@ bool alterDescription(const QString& table, const QString& column) {
 
 void alterDescriptions() {
     Statement query(tData->VelmaraTILL);
-    query.NewRead();
     query.SQL.Add("SELECT TABLE_NAME, COLUMN_NAME, CHARACTER_MAXIMUM_LENGTH");
     query.SQL.Add("  FROM INFORMATION_SCHEMA.[Columns]");
     query.SQL.Add(" WHERE COLUMN_NAME IN (" + QuotedStrArray(descriptionColumns) + ")");
@@ -53,7 +52,6 @@ bool tb_Update_Descriptions_Length() {
     for (const QString& column : descriptionColumns) {
         quoted.append(QuotedStr(column));
     }
-    query.NewRead();
     query.SQL.Add("SELECT TABLE_NAME, COLUMN_NAME, CHARACTER_MAXIMUM_LENGTH "
                   " FROM INFORMATION_SCHEMA.[Columns] "
                   " WHERE COLUMN_NAME IN (" +

@@ -122,7 +122,6 @@ bool tb_CheckDBVersions() {
     gDBVersion = u"0.0.0"_s;
     gLocalDBVersion = u"0.0.0"_s;
     Statement query(gData->Velmara);
-    query.NewRead();
     query.SQL.Add("SELECT * FROM SYSDBConfig WITH (NOLOCK) ");
     query.Open();
     if (!query.IsEmpty()) {

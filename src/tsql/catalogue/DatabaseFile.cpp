@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view fileSuffix = ".sqlite";
 
-[[noreturn]] void refuse(int number, const std::string& state, const std::string& text) {
+[[noreturn]] void raiseNotOpened(int number, const std::string& state, const std::string& text) {
     throw SqlError(SqlErrorKind::NotConnected, state, {number, 16, 1, 0, text}, {});
 }
 
@@ -46,9 +46,9 @@ fs::path folderOf(const DatabaseSettings& settings) {
     const fs::path folder = fromUtf8(settings.folder);
     std::error_code error;
     if (settings.folder.empty() || !fs::is_directory(folder, error)) {
-        refuse(53, "08001",
-               "The folder \"" + settings.folder +
-                   "\" of the embedded databases was not found or cannot be read.");
+        raiseNotOpened(53, "08001",
+                       "The folder \"" + settings.folder +
+                           "\" of the embedded databases was not found or cannot be read.");
     }
     return folder;
 }
@@ -64,40 +64,43 @@ std::optional<fs::path> findFile(const fs::path& folder, const std::string& data
         }
     }
     if (error) {
-        refuse(5120, "08001",
-               "Unable to read the folder \"" + toUtf8(folder) + "\": " + error.message() + ".");
+        raiseNotOpened(5120, "08001",
+                       "Unable to read the folder \"" + toUtf8(folder) + "\": " + error.message() +
+                           ".");
     }
     return std::nullopt;
 }
 
-[[noreturn]] void refuseFile(const fs::path& path, sqlite3* handle, int code) {
+[[noreturn]] void raiseUnusable(const fs::path& path, sqlite3* handle, int code) {
     const std::string name = toUtf8(path);
     switch (code & 0xff) {
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-        refuse(5172, "HY000",
-               "The header for file '" + name + "' is not a valid database file header.");
+        raiseNotOpened(5172, "HY000",
+                       "The header for file '" + name + "' is not a valid database file header.");
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        refuse(1222, "HYT00",
-               "The database file '" + name +
-                   "' is in use by another process: lock request time "
-                   "out period exceeded.");
+        raiseNotOpened(1222, "HYT00",
+                       "The database file '" + name +
+                           "' is in use by another process: lock request time "
+                           "out period exceeded.");
     case SQLITE_READONLY:
         // Even to read it, SQLite makes files of its own beside a database that nobody has open.
-        refuse(5120, "08001",
-               "Unable to open the physical file \"" + name + "\": its folder cannot be written.");
+        raiseNotOpened(5120, "08001",
+                       "Unable to open the physical file \"" + name +
+                           "\": its folder cannot be written.");
     default:
-        refuse(5120, "08001",
-               "Unable to open the physical file \"" + name + "\": " +
-                   (handle != nullptr ? sqlite3_errmsg(handle) : sqlite3_errstr(code)) + ".");
+        raiseNotOpened(
+            5120, "08001",
+            "Unable to open the physical file \"" + name +
+                "\": " + (handle != nullptr ? sqlite3_errmsg(handle) : sqlite3_errstr(code)) + ".");
     }
 }
 
 void apply(const DatabaseFile& file, const char* pragma) {
     const int code = sqlite3_exec(file.handle.get(), pragma, nullptr, nullptr, nullptr);
     if (code != SQLITE_OK) {
-        refuseFile(file.path, file.handle.get(), sqlite3_extended_errcode(file.handle.get()));
+        raiseUnusable(file.path, file.handle.get(), sqlite3_extended_errcode(file.handle.get()));
     }
 }
 
@@ -110,7 +113,7 @@ void prepareForUse(const DatabaseFile& file, int openTimeoutSeconds) {
     if (!file.readOnly) {
         const int code = useWriteAheadLog(file.handle.get());
         if (code != SQLITE_OK) {
-            refuseFile(file.path, file.handle.get(), code);
+            raiseUnusable(file.path, file.handle.get(), code);
         }
     }
     apply(file, "PRAGMA synchronous = FULL");
@@ -147,7 +150,7 @@ DatabaseFile openFile(const fs::path& path, int flags) {
                                      flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     file.handle.reset(raw);
     if (code != SQLITE_OK) {
-        refuseFile(path, raw, code);
+        raiseUnusable(path, raw, code);
     }
     sqlite3_limit(raw, SQLITE_LIMIT_LENGTH, static_cast<int>(longestValue));
     file.readOnly = sqlite3_db_readonly(raw, "main") == 1;
@@ -179,16 +182,17 @@ int useWriteAheadLog(sqlite3* database) {
 DatabaseFile openDatabaseFile(const DatabaseSettings& settings) {
     const fs::path folder = folderOf(settings);
     if (!isPlainName(settings.name)) {
-        refuse(4060, "08001",
-               "Cannot open database \"" + settings.name +
-                   "\" requested by the login: this is no database name. The login failed.");
+        raiseNotOpened(
+            4060, "08001",
+            "Cannot open database \"" + settings.name +
+                "\" requested by the login: this is no database name. The login failed.");
     }
     auto path = findFile(folder, settings.name);
     if (!path && !settings.create) {
-        refuse(4060, "08001",
-               "Cannot open database \"" + settings.name +
-                   "\" requested by the login: there is no such file in \"" + toUtf8(folder) +
-                   "\". The login failed.");
+        raiseNotOpened(4060, "08001",
+                       "Cannot open database \"" + settings.name +
+                           "\" requested by the login: there is no such file in \"" +
+                           toUtf8(folder) + "\". The login failed.");
     }
     const int create = path ? 0 : SQLITE_OPEN_CREATE;
     const int access = settings.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;

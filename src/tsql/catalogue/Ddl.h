@@ -128,7 +128,7 @@ private:
                                       const KeySpec& key);
     void addIndex(TableDef& table, IndexDef index);
     void makeIndex(const TableDef& table, const IndexDef& index);
-    void refuseDuplicates(const TableDef& table, const IndexDef& index) const;
+    void requireDistinct(const TableDef& table, const IndexDef& index) const;
     void removeIndex(TableDef& table, const IndexDef& index);
 
     void rewriteSchema(const TableDef& table);

@@ -14,15 +14,16 @@ constexpr std::string_view alterColumnText = "ALTER TABLE ALTER COLUMN";
 constexpr std::string_view dropColumnText = "ALTER TABLE DROP COLUMN";
 
 // The server sends both; the first is the one by which the refusal is known.
-[[noreturn]] void refuseDependent(std::string_view kind, std::string_view name,
-                                  const ColumnDef& column, std::string_view statement) {
+[[noreturn]] void raiseDependent(std::string_view kind, std::string_view name,
+                                 const ColumnDef& column, std::string_view statement) {
     SqlMessage message = serverMessage(5074, {kind, name, column.name});
     message.text += "\n" + serverMessage(4922, {statement, column.name}).text;
     throw Fault(std::move(message));
 }
 
-void refuseIndex(const IndexDef& index, const ColumnDef& column, std::string_view statement) {
-    refuseDependent(index.isConstraint() ? "object" : "index", index.name, column, statement);
+void raiseDependentIndex(const IndexDef& index, const ColumnDef& column,
+                         std::string_view statement) {
+    raiseDependent(index.isConstraint() ? "object" : "index", index.name, column, statement);
 }
 
 bool growsOnly(const Type& from, const Type& to) {
@@ -37,21 +38,21 @@ void requireAlterable(const TableDef& table, const ColumnDef& from, const Column
         const bool becomesStrict = from.nullable && !to.nullable;
         const bool harmless = growsOnly(from.type, to.type) && !becomesStrict && !index.primaryKey;
         if (index.covers(from.id) && !harmless) {
-            refuseIndex(index, from, alterColumnText);
+            raiseDependentIndex(index, from, alterColumnText);
         }
     }
     if (from.defaultValue && from.type.id != to.type.id) {
-        refuseDependent("object", from.defaultValue->name, from, alterColumnText);
+        raiseDependent("object", from.defaultValue->name, from, alterColumnText);
     }
 }
 
 void requireDroppable(const TableDef& table, const ColumnDef& column) {
     if (column.defaultValue) {
-        refuseDependent("object", column.defaultValue->name, column, dropColumnText);
+        raiseDependent("object", column.defaultValue->name, column, dropColumnText);
     }
     for (const auto& index : table.indexes) {
         if (index.covers(column.id)) {
-            refuseIndex(index, column, dropColumnText);
+            raiseDependentIndex(index, column, dropColumnText);
         }
     }
     if (table.columns.size() == 1) {

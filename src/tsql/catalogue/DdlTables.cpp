@@ -248,7 +248,7 @@ void Ddl::makeIndex(const TableDef& table, const IndexDef& index) {
                    (key.descending ? " DESC" : "");
     }
     if (index.unique) {
-        refuseDuplicates(table, index);
+        requireDistinct(table, index);
     }
     run("CREATE " + std::string(index.unique ? "UNIQUE " : "") + "INDEX " +
         quoteName(sqliteIndexName(table, index)) + " ON " + quoteName(table.name) + "(" + columns +
@@ -260,7 +260,7 @@ void Ddl::makeIndex(const TableDef& table, const IndexDef& index) {
 }
 
 // SQLite would refuse them too, but not say which.
-void Ddl::refuseDuplicates(const TableDef& table, const IndexDef& index) const {
+void Ddl::requireDistinct(const TableDef& table, const IndexDef& index) const {
     std::string columns;
     for (const auto& key : index.keys) {
         columns += (columns.empty() ? "" : ", ") + quoteName(table.columnById(key.columnId)->name);

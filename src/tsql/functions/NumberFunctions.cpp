@@ -52,13 +52,13 @@ void sign(const Call& call) {
     isInteger(call) ? call.give(std::int64_t{result}) : call.give(double{1} * result);
 }
 
-[[noreturn]] void refuseFloat() {
+[[noreturn]] void raiseFloat() {
     throw Fault({3623, 16, 1, 0, "An invalid floating point operation occurred."});
 }
 
 void giveFinite(const Call& call, double value) {
     if (!std::isfinite(value)) {
-        refuseFloat();
+        raiseFloat();
     }
     call.give(value);
 }

@@ -69,7 +69,7 @@ SessionFacts Session::facts() {
 
 /// Faults become the seam's errors here, with the whole text that was sent.
 template <class Work>
-void Session::guarded(std::string_view text, Work work) {
+void Session::told(std::string_view text, Work work) {
     try {
         work();
     } catch (Fault& fault) {
@@ -82,7 +82,7 @@ void Session::run(std::string_view batch, std::span<const Parameter> parameters,
                   const OnResult& onResult) {
     cancelled_ = false;
     try {
-        guarded(batch, [&] { runPieces(batch, parameters, onResult); });
+        told(batch, [&] { runPieces(batch, parameters, onResult); });
     } catch (const SqlError&) {
         if (cancelled_) {
             throw SqlError(SqlErrorKind::Statement, "HY008",
@@ -98,15 +98,15 @@ void Session::cancel() noexcept {
 }
 
 void Session::begin() {
-    guarded({}, [this] { transactions_.begin(); });
+    told({}, [this] { transactions_.begin(); });
 }
 
 void Session::commit() {
-    guarded({}, [this] { transactions_.commit(); });
+    told({}, [this] { transactions_.commit(); });
 }
 
 void Session::rollback() {
-    guarded({}, [this] { transactions_.rollback(); });
+    told({}, [this] { transactions_.rollback(); });
 }
 
 std::int64_t Session::versionNow() const {

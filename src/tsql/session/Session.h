@@ -88,7 +88,7 @@ private:
     std::shared_ptr<Program> programOf(Shape& shape, std::span<const Parameter> parameters);
     SessionFacts facts();
     template <class Work>
-    void guarded(std::string_view text, Work work);
+    void told(std::string_view text, Work work);
     Value sessionValue(std::string_view name) const;
     std::int64_t versionNow() const;
 

@@ -346,7 +346,7 @@ Value convert(Value value, const Type& declared, const Type& to, int style) {
 
 namespace {
 
-[[noreturn]] void refuseTruncation(const Target& target, std::string_view kept) {
+[[noreturn]] void raiseTruncation(const Target& target, std::string_view kept) {
     raise(2628, {target.table, target.column, kept});
 }
 
@@ -366,7 +366,7 @@ Value storedAsText(Value value, const Type& from, const Type& to, const Target& 
             raise(8115, {"expression", baseTypeName(to.id)});
         }
         if (text.find_first_not_of(' ', kept.size()) != std::string::npos) {
-            refuseTruncation(target, kept.substr(0, 100));
+            raiseTruncation(target, kept.substr(0, 100));
         }
         whole = std::string(kept);
     }
@@ -385,7 +385,7 @@ Value convertForColumn(Value value, const Type& from, const Type& to, const Targ
     }
     const auto* blob = to.isBinary() && to.length > 0 ? std::get_if<Blob>(&value) : nullptr;
     if (blob && blob->bytes.size() > static_cast<std::size_t>(to.length)) {
-        refuseTruncation(target, "");
+        raiseTruncation(target, "");
     }
     return convert(std::move(value), from, to);
 }

@@ -48,14 +48,14 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-[[noreturn]] void refuseInteger(std::string_view text, const Type& from, const Type& to) {
+[[noreturn]] void raiseNoInteger(std::string_view text, const Type& from, const Type& to) {
     if (to.id == TypeId::BigInt) {
         raise(8114, {baseTypeName(from.id), "bigint"});
     }
     raise(245, {baseTypeName(from.id), text, baseTypeName(to.id)});
 }
 
-[[noreturn]] void refuseLargeInteger(std::string_view text, const Type& from, const Type& to) {
+[[noreturn]] void raiseLargeInteger(std::string_view text, const Type& from, const Type& to) {
     switch (to.id) {
     case TypeId::TinyInt:
         raise(244, {baseTypeName(from.id), text, "INT1"});
@@ -110,7 +110,7 @@ std::int64_t readInteger(std::string_view text, const Type& from, const Type& to
         digits = trimmed(digits);
     }
     if (digits.find_first_not_of("0123456789") != std::string_view::npos) {
-        refuseInteger(text, from, to);
+        raiseNoInteger(text, from, to);
     }
     std::uint64_t magnitude = 0;
     const auto [end, error] =
@@ -119,7 +119,7 @@ std::int64_t readInteger(std::string_view text, const Type& from, const Type& to
     const auto most = static_cast<std::uint64_t>(bounds.most);
     const auto least = static_cast<std::uint64_t>(0) - static_cast<std::uint64_t>(bounds.least);
     if (error == std::errc::result_out_of_range || magnitude > (negative ? least : most)) {
-        refuseLargeInteger(text, from, to);
+        raiseLargeInteger(text, from, to);
     }
     return static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude);
 }

@@ -209,7 +209,7 @@ Type concatenated(const Type& a, const Type& b) {
     return {id, std::min(a.length + b.length, named(id).widest)};
 }
 
-[[noreturn]] void refuseOperands(char operation, const Type& a, const Type& b) {
+[[noreturn]] void raiseOperands(char operation, const Type& a, const Type& b) {
     const auto& wrong = a.isNumber() || a.isText() ? b : a;
     if (a.id == b.id || operation == '*' || operation == '/') {
         raise(8117, {baseTypeName(wrong.id), operatorName(operation)});
@@ -308,7 +308,7 @@ Type arithmeticType(char operation, const Type& a, const Type& b) {
     const Type x = a.isNull() ? b : a;
     const Type y = b.isNull() ? a : b;
     if (x.isLongText() || y.isLongText()) {
-        refuseOperands(operation, x, y);
+        raiseOperands(operation, x, y);
     }
     if (operation == '+' && ((x.isText() && y.isText()) || (x.isBinary() && y.isBinary()))) {
         return concatenated(x, y);
@@ -318,12 +318,12 @@ Type arithmeticType(char operation, const Type& a, const Type& b) {
     if (winner.isDateTime()) {
         const bool plain = winner.id == TypeId::DateTime || winner.id == TypeId::SmallDateTime;
         if (!plain || (operation != '+' && operation != '-')) {
-            refuseOperands(operation, x, y);
+            raiseOperands(operation, x, y);
         }
         return winner;
     }
     if (!winner.isNumber() || (bitwise && !winner.isInteger())) {
-        refuseOperands(operation, x, y);
+        raiseOperands(operation, x, y);
     }
     // Text beside a number becomes that number's type.
     const Type left = x.isNumber() ? x : winner;
