@@ -156,3 +156,9 @@ void TfrmVEL710::btnCloseClick() {
         reject();
     }
 }
+
+void sfvel_TechHelp(const QString& xFormCode) {
+    TfrmVEL710 form;
+    form.xFormCode = xFormCode;
+    velcro::ui::runModal(form);
+}
