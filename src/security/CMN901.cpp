@@ -27,8 +27,7 @@ TfrmCMN901::TfrmCMN901()
     addButton({.name = QStringLiteral("btnOK"),
                .caption = QStringLiteral(" Proceed"),
                .handler = [this] { btnOKClick(); },
-               .role = ButtonFacts::Role::Main,
-               .cap = QStringLiteral("F10")});
+               .role = ButtonFacts::Role::Main});
     addButton({.name = QStringLiteral("btnCancel"),
                .caption = QStringLiteral("Cancel"),
                .key = Qt::Key_Escape,

@@ -144,12 +144,18 @@ TEST_F(DurabilityTest, aLostTillBatchRunsOnceAndOneLostAtItsCommitIsNotRunAgain)
     sfg_AddSQL("CREATE TABLE [TillWork] ([A] int)", "NEW");
     ASSERT_TRUE(tData->til_ExecSQL(1)) << gErrorMsg.toStdString();
     const auto till = [this] { return others("SELECT COUNT(*) FROM [TillWork]", "VELTILL"); };
-    for (int call = 1; call <= 2; ++call) {
-        server.dropAt(call); // begin, the batch
+    server.dropAt(1);
+    sfg_AddSQL("INSERT INTO [TillWork] VALUES (1)", "NEW");
+    EXPECT_THROW(tData->til_ExecSQL(1), velcro::sql::SqlError) << "it could not begin";
+    EXPECT_TRUE(server.dropped());
+    EXPECT_EQ(till(), "0");
+    EXPECT_TRUE(tData->ConnectDB_TIL());
+    for (int count = 1; count <= 2; ++count) {
+        server.dropAt(2); // the batch
         sfg_AddSQL("INSERT INTO [TillWork] VALUES (1)", "NEW");
         EXPECT_TRUE(tData->til_ExecSQL(1)) << gErrorMsg.toStdString();
         EXPECT_TRUE(server.dropped());
-        EXPECT_EQ(till(), QString::number(call));
+        EXPECT_EQ(till(), QString::number(count));
     }
     server.dropAt(3);
     sfg_AddSQL("INSERT INTO [TillWork] VALUES (1)", "NEW");

@@ -283,9 +283,10 @@ TEST_F(SelectionTest, aListClosesItsQueryAndOpensItsTechnicalReference) {
         Opened()
             : TfrmCRO900(nullptr) {}
         using ListScreen::query;
-    } list;
+    };
     QString asked;
     gScreenServices.techHelp = [&asked](const QString& form) { asked = form; };
+    Opened list;
     user.workIn(list, [&] {
         EXPECT_TRUE(list.query().Active());
         user.click("btnTechHelp");

@@ -35,7 +35,8 @@ protected:
 /// "CO nvarchar(10)", "GLYear int DEFAULT 0 NOT NULL" of a table, as the catalogue tells them.
 const std::string columnTexts =
     "SELECT COLUMN_NAME + ' ' + DATA_TYPE + CASE WHEN CHARACTER_MAXIMUM_LENGTH = -1 THEN '(max)'"
-    " WHEN CHARACTER_MAXIMUM_LENGTH < 8001 THEN '(' + CAST(CHARACTER_MAXIMUM_LENGTH AS varchar(5))"
+    " WHEN CHARACTER_MAXIMUM_LENGTH BETWEEN 1 AND 8000 THEN '(' + CAST(CHARACTER_MAXIMUM_LENGTH AS "
+    "varchar(5))"
     " + ')' ELSE '' END"
     " + CASE WHEN COLUMN_NAME = 'RecID' THEN ' IDENTITY(1, 1)' ELSE '' END"
     " + CASE COLUMN_DEFAULT WHEN '((0))' THEN ' DEFAULT 0' WHEN '('''')' THEN ' DEFAULT '''''"

@@ -6,7 +6,7 @@
 
 using velcro::ui::KeyButton;
 
-TEST(Buttons, TheCapIsDrawnFromTheKeyAndTheKeyPressesTheButton) {
+TEST(ButtonsTest, theCapIsDrawnFromTheKeyAndTheKeyPressesTheButton) {
     const struct
     {
         ButtonFacts facts;
@@ -58,7 +58,7 @@ TEST(Buttons, TheCapIsDrawnFromTheKeyAndTheKeyPressesTheButton) {
     }
 }
 
-TEST(Buttons, NamesAreSpokenPlainlyAndNothingToDoIsGreyed) {
+TEST(ButtonsTest, namesAreSpokenPlainlyAndNothingToDoIsGreyed) {
     QDialog form;
     const auto* button = makeButton(form, {.name = "btnAdd", .caption = "    &New*    Code"});
     EXPECT_EQ(button->objectName(), "btnAdd");

@@ -3,7 +3,7 @@
 #include <QComboBox>
 #include <gtest/gtest.h>
 
-TEST(Theme, AComboShowsAsManyRowsAtATimeAsItSays) {
+TEST(ThemeTest, aComboShowsAsManyRowsAtATimeAsItSays) {
     const struct
     { int entries, limit, shown; } cases[] = {{50, 15, 15}, {50, 10, 10}, {4, 20, 4}};
     for (const auto& [entries, limit, shown] : cases) {
