@@ -22,6 +22,7 @@ void watch(QDialog& dialog) {
             return;
         }
         if (QApplication::activeModalWidget() == &dialog && !inputIsQueued()) {
+            const ModalInput input(dialog);
             modalWatcher(dialog);
         } else {
             watch(dialog);
@@ -50,6 +51,9 @@ bool hasKeyboard(const QWidget& window) {
 
 /// Puts the form on screen and waits until keys reach it; it may close itself meanwhile.
 void bringUp(QDialog& dialog) {
+    if (modalWatcher) {
+        watch(dialog);
+    }
     dialog.setModal(true);
     dialog.show();
     pumpUntil([&dialog] { return !dialog.isVisible() || hasKeyboard(dialog); }, untilKeyboard);
@@ -73,9 +77,6 @@ int runModal(QDialog& dialog) {
     {
         const ModalInput input(dialog);
         bringUp(dialog);
-        if (modalWatcher) {
-            watch(dialog);
-        }
         result = dialog.isVisible() ? dialog.exec() : dialog.result();
     }
     activateBelow();
@@ -84,9 +85,6 @@ int runModal(QDialog& dialog) {
 
 void showOverWork(QDialog& dialog) {
     bringUp(dialog);
-    if (modalWatcher) {
-        watch(dialog);
-    }
 }
 
 void hideOverWork(QDialog& dialog) {
