@@ -1,5 +1,6 @@
 #include "application/Program.h"
 
+#include "application/DatabaseWait.h"
 #include "application/SessionInit.h"
 #include "application/StartUp.h"
 #include "application/VersionCheck.h"
@@ -34,6 +35,7 @@ Program::Program(const QStringList& arguments)
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(velcro::ui::icon(QStringLiteral("product-logo")));
     connectPrompts();
+    watchDatabaseWaits();
     createDataModules();
     fillImageLists(*sData);
     gScreenServices.techHelp = sfvel_TechHelp;

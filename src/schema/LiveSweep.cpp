@@ -2,7 +2,7 @@
 
 #include "schema/SysDBGen.h"
 
-#include <QCoreApplication>
+#include <utility>
 
 namespace velcro::schema {
 
@@ -10,16 +10,13 @@ namespace {
 
 constexpr qint64 millisecondsBetweenPaints = 100;
 
-void paint() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
 } // namespace
 
-LiveSweep::LiveSweep() {
+LiveSweep::LiveSweep(std::function<void()> paint)
+    : paint_(std::move(paint)) {
     gSchemaWatch = {.afterLookUp = [this] { tick(); },
                     .afterSend = [this](const QString&, bool) { tick(); }};
-    paint();
+    paint_();
     sincePainted_.start();
 }
 
@@ -29,7 +26,7 @@ LiveSweep::~LiveSweep() {
 
 void LiveSweep::tick() {
     if (sincePainted_.elapsed() >= millisecondsBetweenPaints) {
-        paint();
+        paint_();
         sincePainted_.restart();
     }
 }

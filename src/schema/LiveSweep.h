@@ -3,14 +3,16 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
+
 namespace velcro::schema {
 
 /// While it lives the window is painted between the statements, at once and then every tenth of a
-/// second. Keys and clicks wait for the screen that is meant to get them.
+/// second, by the pump it is given.
 class LiveSweep
 {
 public:
-    LiveSweep();
+    explicit LiveSweep(std::function<void()> paint);
     ~LiveSweep();
     LiveSweep(const LiveSweep&) = delete;
     LiveSweep& operator=(const LiveSweep&) = delete;
@@ -18,6 +20,7 @@ public:
 private:
     void tick();
 
+    std::function<void()> paint_;
     QElapsedTimer sincePainted_;
 };
 

@@ -17,6 +17,7 @@
 #include "security/LogInPicture.h"
 #include "security/LogInRead.h"
 #include "security/SysLogIn.h"
+#include "ui/Events.h"
 #include "ui/Modal.h"
 
 #include <QComboBox>
@@ -64,7 +65,7 @@ public:
 
 // The version is recorded whatever became of the statements: what is missing waits for the next one.
 void sweepTill() {
-    const velcro::schema::LiveSweep live;
+    const velcro::schema::LiveSweep live(velcro::ui::pumpPaint);
     tb_Upgrade();
     tb_Update_TillDBVersion(gTillDBVersion);
 }

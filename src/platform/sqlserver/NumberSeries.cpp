@@ -1,6 +1,7 @@
 #include "platform/sqlserver/NumberSeries.h"
 
 #include "tsql/catalogue/DatabaseFile.h"
+#include "tsql/catalogue/LockWait.h"
 #include "tsql/catalogue/SqliteQuery.h"
 #include "tsql/values/Errors.h"
 
@@ -218,7 +219,7 @@ void NumberSeries::open(const std::filesystem::path& database) {
     database_.reset(raw);
     try {
         require(code);
-        sqlite3_busy_timeout(raw, tsql::lockTimeoutMilliseconds);
+        tsql::limitLockWait(raw, tsql::lockTimeoutMilliseconds);
         require(tsql::useWriteAheadLog(raw));
         waiting_ = false;
         waitForDisk(true);

@@ -1,5 +1,6 @@
 #include "tsql/catalogue/DatabaseFile.h"
 
+#include "tsql/catalogue/LockWait.h"
 #include "tsql/values/SqlError.h"
 
 #include <algorithm>
@@ -107,8 +108,7 @@ void apply(const DatabaseFile& file, const char* pragma) {
 /// The first read tells whether the file is a database at all, before anything could be written.
 void prepareForUse(const DatabaseFile& file, int openTimeoutSeconds) {
     const bool limited = openTimeoutSeconds > 0;
-    sqlite3_busy_timeout(file.handle.get(),
-                         limited ? openTimeoutSeconds * 1000 : lockTimeoutMilliseconds);
+    limitLockWait(file.handle.get(), limited ? openTimeoutSeconds * 1000 : lockTimeoutMilliseconds);
     apply(file, "SELECT count(*) FROM sqlite_schema");
     if (!file.readOnly) {
         const int code = useWriteAheadLog(file.handle.get());
@@ -121,7 +121,7 @@ void prepareForUse(const DatabaseFile& file, int openTimeoutSeconds) {
     apply(file, "PRAGMA temp_store = MEMORY");
     apply(file, "PRAGMA cache_size = -32768");
     apply(file, "PRAGMA mmap_size = 268435456");
-    sqlite3_busy_timeout(file.handle.get(), lockTimeoutMilliseconds);
+    limitLockWait(file.handle.get(), lockTimeoutMilliseconds);
 }
 
 /// Whoever may only read a file leaves its log beside it with the same rights, and nobody could

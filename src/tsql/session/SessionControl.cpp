@@ -1,4 +1,5 @@
 // Control flow, variables, options, messages and transactions of T-SQL.
+#include "tsql/catalogue/LockWait.h"
 #include "tsql/session/PlaceNames.h"
 #include "tsql/session/SessionVisit.h"
 #include "tsql/values/Collation.h"
@@ -91,8 +92,8 @@ Session::Flow Session::execute(const SetOption& set, Place& place) {
         ++settingsVersion_;
     } else if (has("LOCK_TIMEOUT")) {
         std::from_chars(set.value.data(), set.value.data() + set.value.size(), lockTimeout_);
-        sqlite3_busy_timeout(file_.handle.get(),
-                             lockTimeout_ < 0 ? lockTimeoutMilliseconds : lockTimeout_);
+        limitLockWait(file_.handle.get(),
+                      lockTimeout_ < 0 ? lockTimeoutMilliseconds : lockTimeout_);
     } else if (has("IMPLICIT_TRANSACTIONS") && on) {
         raiseUnsupported("SET IMPLICIT_TRANSACTIONS ON", line_);
     }
