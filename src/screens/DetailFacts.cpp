@@ -18,6 +18,14 @@ namespace field {
 
 using Kind = DetailField::Kind;
 
+DetailField page(const char* name, const QString& caption) {
+    return {Kind::Page, name, caption};
+}
+
+DetailField note(const QString& text) {
+    return {Kind::Note, nullptr, text};
+}
+
 DetailField group(const QString& title) {
     return {Kind::Group, nullptr, title};
 }
@@ -34,6 +42,10 @@ DetailField date(const char* name, const QString& label, FieldOptions options) {
     return {Kind::Date, name, label, std::move(options)};
 }
 
+DetailField amount(const char* name, const QString& label, FieldOptions options) {
+    return {Kind::Amount, name, label, std::move(options)};
+}
+
 DetailField memo(const char* name, const QString& label, FieldOptions options) {
     return {Kind::Memo, name, label, std::move(options)};
 }
@@ -48,6 +60,15 @@ DetailField codes(const char* name, const QString& label, const QString& xTable,
     return {Kind::Codes, name, label, std::move(options), {xTable, xALL}};
 }
 
+DetailField toggle(const char* name, const QString& label, const QString& onCaption,
+                   const QString& offCaption, FieldOptions options) {
+    return {Kind::Toggle, name, label, std::move(options), {onCaption, offCaption}};
+}
+
+DetailField other(const char* name, const QString& accessibleName, std::function<QWidget*()> make) {
+    return {Kind::Other, name, accessibleName, {}, {}, std::move(make)};
+}
+
 } // namespace field
 
 bool isFilled(const QString& value) {
@@ -56,6 +77,10 @@ bool isFilled(const QString& value) {
 
 bool isNotBlank(const QString& value) {
     return !value.trimmed().isEmpty();
+}
+
+bool isNotZero(const QString& value) {
+    return value != u'0';
 }
 
 bool isPhone(const QString& value) {

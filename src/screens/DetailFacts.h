@@ -19,35 +19,55 @@ struct FieldOptions
     bool key = false;       // of the row: cannot be changed once the row is there
     bool browse = false;    // has a button that opens a selection; a LookUp answers it
     bool today = false;     // a date that begins as the server's
+    int decimals = 2;       // of an amount; the screen may set others later
     bool loads = true;      // false: the control does not take its column from the row
     QString emptyText = {};
     const char* column = nullptr; // where it is another than the control's name says
 };
 
-/// A control of the form, or the beginning of a group. Made by the functions of namespace field.
+/// A control of the form, a note, or the beginning of a page or group. Made by the functions of namespace field.
 struct DetailField
 {
-    enum class Kind { Group, GroupBeside, Text, Date, Combo, Codes, Memo };
+    enum class Kind {
+        Page,
+        Group,
+        GroupBeside,
+        Note,
+        Text,
+        Date,
+        Amount,
+        Combo,
+        Codes,
+        Toggle,
+        Memo,
+        Other
+    };
 
     Kind kind = Kind::Text;
-    const char* name = nullptr; // object name of the control; none for a group
+    const char* name = nullptr; // object name of the control or page
     QString label;
     FieldOptions options = {};
-    QStringList entries = {}; // of a combo; of codes: key of the loader, and what it begins with
+    // Of a combo; of codes: key of the loader, and what it begins with; of a toggle: its captions.
+    QStringList entries = {};
+    std::function<QWidget*()> make = {}; // of any other control
 
     /// "edAccount" holds the column Account, "cmbReceiveMthd" the column ReceiveMthd.
     QString column() const;
-    bool isControl() const { return name != nullptr; }
 };
 
 namespace field {
 
+/// A page behind a tab; what stands before the first page stays above them all.
+DetailField page(const char* name, const QString& caption);
 /// A group with its title, below the last one or beside it.
 DetailField group(const QString& title);
 DetailField groupBeside(const QString& title);
-/// An edit of one line; a date; a text of several lines.
+/// A text that explains the form.
+DetailField note(const QString& text);
+/// An edit of one line; a date; an amount; a text of several lines.
 DetailField text(const char* name, const QString& label, FieldOptions options = {});
 DetailField date(const char* name, const QString& label, FieldOptions options = {});
+DetailField amount(const char* name, const QString& label, FieldOptions options = {});
 DetailField memo(const char* name, const QString& label, FieldOptions options = {});
 /// A choice of fixed entries. The column holds the code before the first "-" of an entry.
 DetailField combo(const char* name, const QString& label, const QStringList& entries,
@@ -55,6 +75,11 @@ DetailField combo(const char* name, const QString& label, const QStringList& ent
 /// The same, filled by sld_LoadCombo each time the screen is shown.
 DetailField codes(const char* name, const QString& label, const QString& xTable,
                   const QString& xALL, FieldOptions options = {});
+/// A switch. The column holds "Y" or "N".
+DetailField toggle(const char* name, const QString& label, const QString& onCaption,
+                   const QString& offCaption, FieldOptions options = {});
+/// A control of the screen's own, such as a grid, that takes the room its page has left.
+DetailField other(const char* name, const QString& accessibleName, std::function<QWidget*()> make);
 
 } // namespace field
 
@@ -71,6 +96,7 @@ struct FieldCheck
 // The tests of a check. A field that must be filled is marked on the form.
 bool isFilled(const QString& value);   // blanks count
 bool isNotBlank(const QString& value); // blanks do not
+bool isNotZero(const QString& value);  // of an amount
 bool isPhone(const QString& value);
 bool isPhoneOrEmpty(const QString& value);
 bool isEMailOrEmpty(const QString& value);

@@ -7,7 +7,9 @@
 #include "data/StatementText.h"
 #include "data/TextHelpers.h"
 #include "screens/Combos.h"
+#include "ui/AmountEdit.h"
 #include "ui/DateEdit.h"
+#include "ui/Toggle.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -16,7 +18,9 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+using velcro::ui::AmountEdit;
 using velcro::ui::FormBuilder;
+using velcro::ui::Toggle;
 using Kind = DetailField::Kind;
 
 namespace {
@@ -32,6 +36,10 @@ void setFieldValue(QWidget& control, const QString& value) {
         }
     } else if (auto* memo = qobject_cast<QPlainTextEdit*>(&control)) {
         memo->setPlainText(value);
+    } else if (auto* toggle = qobject_cast<Toggle*>(&control)) {
+        toggle->setChecked(value.compare("Y"_L1, Qt::CaseInsensitive) == 0);
+    } else if (auto* amount = qobject_cast<AmountEdit*>(&control)) {
+        amount->setNumber(value);
     } else if (auto* edit = qobject_cast<QLineEdit*>(&control)) {
         edit->setText(value);
     }
@@ -46,6 +54,12 @@ QString fieldValue(const QWidget& control) {
     if (const auto* memo = qobject_cast<const QPlainTextEdit*>(&control)) {
         return memo->toPlainText();
     }
+    if (const auto* toggle = qobject_cast<const Toggle*>(&control)) {
+        return toggle->isChecked() ? u"Y"_s : u"N"_s;
+    }
+    if (const auto* amount = qobject_cast<const AmountEdit*>(&control)) {
+        return amount->number();
+    }
     const auto* edit = qobject_cast<const QLineEdit*>(&control);
     return edit != nullptr ? edit->text() : QString();
 }
@@ -59,7 +73,7 @@ DetailForm::DetailForm(const DetailFacts& facts, QWidget* page)
         }
     }
     for (const auto& check : facts.checks) {
-        if (check.passes == isFilled || check.passes == isNotBlank) {
+        if (check.passes == isFilled || check.passes == isNotBlank || check.passes == isNotZero) {
             form.markRequired(&control(QString::fromLatin1(check.control)));
         }
     }
@@ -79,6 +93,12 @@ QWidget* DetailForm::build(FormBuilder& form, const DetailField& stated) {
         form.beside();
     }
     switch (stated.kind) {
+    case Kind::Page:
+        form.page(name, stated.label);
+        return nullptr;
+    case Kind::Note:
+        form.note(stated.label);
+        return nullptr;
     case Kind::Group:
         form.group(stated.label);
         return nullptr;
@@ -87,16 +107,30 @@ QWidget* DetailForm::build(FormBuilder& form, const DetailField& stated) {
         return nullptr;
     case Kind::Date:
         return form.date(name, stated.label);
+    case Kind::Amount:
+        return form.amount(name, stated.label, options.decimals, options.readOnly);
     case Kind::Combo:
         return form.combo(name, stated.label, stated.entries, options.width);
     case Kind::Codes:
         return form.combo(name, stated.label, {}, options.width);
     case Kind::Memo:
         return form.memo(name, stated.label);
+    case Kind::Toggle:
+        return form.toggle(name, stated.label, stated.entries[0], stated.entries[1]);
+    case Kind::Other: {
+        auto* widget = stated.make();
+        form.fill(widget, name, stated.label);
+        return widget;
+    }
     case Kind::Text:
         break;
     }
-    auto* edit = form.edit(name, stated.label,
+    return buildEdit(form, stated);
+}
+
+QWidget* DetailForm::buildEdit(FormBuilder& form, const DetailField& stated) {
+    const auto& options = stated.options;
+    auto* edit = form.edit(QString::fromLatin1(stated.name), stated.label,
                            {.width = options.width,
                             .limit = options.limit,
                             .upperCase = options.upperCase,

@@ -9,8 +9,8 @@
 
 class Statement;
 
-/// What goes into the column of a control: the text of an edit, the code of a combo before its first
-/// "-".
+/// What goes into the column of a control: the text of an edit or memo, the code of a combo before its
+/// first "-", an amount as plain decimal text, "Y" or "N" of a toggle.
 QString fieldValue(const QWidget& control);
 
 class DetailForm
@@ -44,7 +44,8 @@ public:
     QString value(const QString& column) const;
 
 private:
-    QWidget* build(velcro::ui::FormBuilder& form, const DetailField& stated);
+    static QWidget* build(velcro::ui::FormBuilder& form, const DetailField& stated);
+    static QWidget* buildEdit(velcro::ui::FormBuilder& form, const DetailField& stated);
     const ColumnValue* findValue(const QString& column) const;
     const Field* findField(const QString& column) const;
 

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
@@ -71,15 +72,50 @@ void DetailScreen::makeForm() {
     });
     form_ = std::make_unique<DetailForm>(facts_, pnlMain);
     for (const auto& field : form_->fields()) {
-        if (field.stated->kind != DetailField::Kind::Memo) { // Enter begins a line there
-            field.control->installEventFilter(this);
-        }
-        if (auto* date = qobject_cast<DateEdit*>(field.control)) {
-            connectHandler(date, &DateEdit::dateRefused, this, [this, date] {
-                refuse(date, date->accessibleName() + u" is not a date. Type it as yyyy/mm/dd."_s);
-            });
-        }
+        watch(field);
     }
+}
+
+void DetailScreen::watch(const DetailForm::Field& field) {
+    auto* control = field.control;
+    const auto wasEdited = [this, control] { edited(control); };
+    if (auto* edit = qobject_cast<QLineEdit*>(control)) {
+        connectHandler(edit, &QLineEdit::textEdited, this, wasEdited);
+    } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        connectHandler(combo, &QComboBox::activated, this, wasEdited);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        connectHandler(button, &QAbstractButton::clicked, this, wasEdited);
+    } else if (auto* memo = qobject_cast<QPlainTextEdit*>(control)) {
+        connectHandler(memo, &QPlainTextEdit::textChanged, this, [memo, wasEdited] {
+            if (memo->document()->isModified()) { // and not filled by the program
+                wasEdited();
+            }
+        });
+    }
+    if (auto* date = qobject_cast<DateEdit*>(control)) {
+        connectHandler(date, &DateEdit::dateRefused, this, [this, date] {
+            refuse(date, date->accessibleName() + u" is not a date. Type it as yyyy/mm/dd."_s);
+        });
+    }
+    using Kind = DetailField::Kind;
+    if (field.stated->kind != Kind::Memo && field.stated->kind != Kind::Other) {
+        control->installEventFilter(this); // Enter leads on
+    }
+}
+
+void DetailScreen::edited(const QWidget* control) {
+    touch();
+    if (control == offending_) {
+        clearRefusal();
+    }
+}
+
+void DetailScreen::reject() {
+    if (touched_ && !deleting() && btnSave->isEnabled() &&
+        !sfg_QuestionDlg(u"Close without saving?"_s, u"What was typed here will be lost."_s)) {
+        return;
+    }
+    Screen::reject();
 }
 
 // Save stands at the bottom right, where the thumb is.
@@ -313,6 +349,7 @@ bool DetailScreen::refuse(QWidget* control, const QString& message) {
     if (control != nullptr) {
         offending_ = control;
         mark(control, "offending", true);
+        velcro::ui::bringForward(*control);
         control->setFocus();
     }
     return false;

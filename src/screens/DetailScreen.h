@@ -19,7 +19,8 @@ public:
     const DetailFacts& facts() const { return facts_; }
     const DetailForm& form() const { return *form_; }
 
-    /// Shows an error in the status bar, marks the control and gives it the focus. False.
+    /// Shows an error in the status bar, marks the control until it is edited and gives it the focus,
+    /// its page coming forward. False.
     bool refuse(QWidget* control, const QString& message);
     /// Takes message and mark away.
     void clearRefusal();
@@ -76,7 +77,13 @@ protected:
     /// colour.
     void lockKey(QLineEdit* edit);
 
+    /// The user has changed something: leaving without a save asks first. Happens by itself for all
+    /// stated controls but those of the screen's own.
+    void touch() { touched_ = true; }
+
     void FormShow() override;
+    /// Esc and the window's frame.
+    void reject() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -89,8 +96,11 @@ private:
     void collect();
     void enterPressed(const QObject* control);
     bool dateCanBeRead(QWidget& control);
+    void watch(const DetailForm::Field& field);
+    void edited(const QWidget* control);
 
     DetailFacts facts_;
     std::unique_ptr<DetailForm> form_;
     QWidget* offending_ = nullptr;
+    bool touched_ = false;
 };

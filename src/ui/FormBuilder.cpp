@@ -1,18 +1,24 @@
 #include "ui/FormBuilder.h"
 
+#include "ui/AmountEdit.h"
 #include "ui/DateEdit.h"
 #include "ui/Handler.h"
 #include "ui/Icons.h"
 #include "ui/Theme.h"
+#include "ui/Toggle.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QValidator>
@@ -29,6 +35,7 @@ constexpr int margin = 10;
 constexpr int frameWidth = 20; // of an edit, left and right of its letters
 constexpr int arrowWidth = 36;
 constexpr int narrowestEdit = 10; // letters
+constexpr int amountLetters = 14;
 
 /// Corrects what goes into an edit, typed or pasted.
 class Letters : public QValidator
@@ -117,6 +124,22 @@ protected:
     }
 };
 
+/// Esc in an open list is the list's, and no shortcut of the form below.
+class OwnEscape : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            event->accept();
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 // "Order Date:" and "&Search" are spoken without their marks.
 QString spoken(const QString& label) {
     QString name = label;
@@ -126,11 +149,50 @@ QString spoken(const QString& label) {
 
 } // namespace
 
-FormBuilder::FormBuilder(QWidget* page)
-    : page_(page)
-    , rows_(new QVBoxLayout(page)) {
+void bringForward(QWidget& control) {
+    for (QWidget* page = &control; page->parentWidget() != nullptr; page = page->parentWidget()) {
+        auto* stack = qobject_cast<QStackedWidget*>(page->parentWidget());
+        auto* pager = stack != nullptr ? qobject_cast<QTabWidget*>(stack->parentWidget()) : nullptr;
+        if (pager != nullptr) {
+            pager->setCurrentWidget(page);
+        }
+    }
+}
+
+FormBuilder::FormBuilder(QWidget* page) {
+    newRows(page);
+}
+
+void FormBuilder::newRows(QWidget* page) {
+    page_ = page;
+    rows_ = new QVBoxLayout(page);
     rows_->setContentsMargins(margin, margin, margin, margin);
     rows_->setSpacing(spacing);
+    filled_ = false;
+    endGroup();
+}
+
+void FormBuilder::endGroup() {
+    groups_ = nullptr;
+    owner_ = nullptr;
+    grid_ = nullptr;
+    beside_ = false;
+}
+
+QWidget* FormBuilder::page(const QString& name, const QString& caption) {
+    if (pager_ == nullptr) {
+        pager_ = new QTabWidget(page_);
+        pager_->setObjectName(QStringLiteral("MainPager"));
+        pager_->setAccessibleName(QStringLiteral("Pages"));
+        rows_->addWidget(pager_, 1);
+    } else {
+        endPage();
+    }
+    auto* page = new QWidget;
+    page->setObjectName(name);
+    pager_->addTab(page, caption);
+    newRows(page);
+    return page;
 }
 
 QGroupBox* FormBuilder::group(const QString& title) {
@@ -244,10 +306,30 @@ QComboBox* FormBuilder::combo(const QString& name, const QString& label, const Q
                               int width) {
     auto* combo = new Yielding<QComboBox>;
     combo->addItems(entries);
+    combo->view()->installEventFilter(new OwnEscape(combo));
     combo->setWidths(widthOf(*combo, narrowestEdit) + arrowWidth,
                      widthOf(*combo, width) + arrowWidth);
     control(combo, name, label);
     return combo;
+}
+
+AmountEdit* FormBuilder::amount(const QString& name, const QString& label, int decimals,
+                                bool readOnly) {
+    auto* edit = new AmountEdit(decimals);
+    edit->setFixedWidth(widthOf(*edit, amountLetters));
+    edit->setReadOnly(readOnly);
+    if (readOnly) {
+        edit->setFocusPolicy(Qt::ClickFocus);
+    }
+    control(edit, name, label);
+    return edit;
+}
+
+Toggle* FormBuilder::toggle(const QString& name, const QString& label, const QString& onCaption,
+                            const QString& offCaption) {
+    auto* toggle = new Toggle(onCaption, offCaption);
+    control(toggle, name, label);
+    return toggle;
 }
 
 QPlainTextEdit* FormBuilder::memo(const QString& name, const QString& label, int lines, int width) {
@@ -272,6 +354,24 @@ QLabel* FormBuilder::value(const QString& name, const QString& label, const QStr
     value->setTextFormat(Qt::PlainText);
     control(value, name, label);
     return value;
+}
+
+QLabel* FormBuilder::note(const QString& text) {
+    auto* note = new QLabel(text, page_);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setProperty("role", "note");
+    rows_->addWidget(note);
+    endGroup();
+    return note;
+}
+
+void FormBuilder::fill(QWidget* widget, const QString& name, const QString& accessibleName) {
+    widget->setObjectName(name);
+    widget->setAccessibleName(accessibleName);
+    rows_->addWidget(widget, 1);
+    endGroup();
+    filled_ = true;
 }
 
 QToolButton* FormBuilder::buttonAfter(QLineEdit* edit, const QString& name,
@@ -328,9 +428,15 @@ void FormBuilder::alignLabels() {
     }
 }
 
+void FormBuilder::endPage() {
+    if (!filled_) {
+        rows_->addStretch(1);
+    }
+}
+
 void FormBuilder::stretch() {
     alignLabels();
-    rows_->addStretch(1);
+    endPage();
 }
 
 } // namespace velcro::ui

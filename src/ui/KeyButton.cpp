@@ -3,6 +3,7 @@
 #include "ui/KeyCap.h"
 #include "ui/Theme.h"
 
+#include <QKeyEvent>
 #include <QStyle>
 
 #include <algorithm>
@@ -26,9 +27,20 @@ const char* roleName(KeyButton::Role role) {
 
 } // namespace
 
+bool clickedByEnter(QAbstractButton& button, const QKeyEvent& event) {
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!enter || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        return false;
+    }
+    if (!event.isAutoRepeat()) {
+        button.click();
+    }
+    return true;
+}
+
 KeyButton::KeyButton(const QString& caption, QWidget* parent)
     : QPushButton(caption, parent) {
-    // Enter belongs to the edits and the grid of a screen, never to a button out of focus.
+    // Enter belongs to what has the focus, never to a button that has not.
     setAutoDefault(false);
     setIconSize(capSize);
 }
@@ -49,6 +61,12 @@ void KeyButton::setRole(Role role) {
 
 void KeyButton::setInPanel(bool inPanel) {
     setProperty("panel", inPanel);
+}
+
+void KeyButton::keyPressEvent(QKeyEvent* event) {
+    if (!clickedByEnter(*this, *event)) {
+        QPushButton::keyPressEvent(event);
+    }
 }
 
 QSize KeyButton::sizeHint() const {

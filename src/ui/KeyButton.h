@@ -5,6 +5,10 @@
 
 namespace velcro::ui {
 
+/// What Enter does on a button that has the focus: it clicks, once however long it is held. True when
+/// the key was such an Enter.
+bool clickedByEnter(QAbstractButton& button, const QKeyEvent& event);
+
 class KeyButton : public QPushButton
 {
     Q_OBJECT
@@ -26,6 +30,9 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QString key_;

@@ -2,6 +2,7 @@
 
 #include "ui/Handler.h"
 #include "ui/Icons.h"
+#include "ui/KeyButton.h"
 
 #include <QPainter>
 
@@ -31,6 +32,12 @@ MenuTile::MenuTile(const QString& name, const QString& caption, const QString& p
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAutoDefault(false);
     setAttribute(Qt::WA_Hover);
+}
+
+void MenuTile::keyPressEvent(QKeyEvent* event) {
+    if (!clickedByEnter(*this, *event)) {
+        QPushButton::keyPressEvent(event);
+    }
 }
 
 void MenuTile::paintEvent(QPaintEvent* /*event*/) {

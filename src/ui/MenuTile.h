@@ -21,6 +21,7 @@ public:
     QSize minimumSizeHint() const override { return size_; }
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -36,6 +36,11 @@ protected:
         screen.xRecID = xFunction == 1 ? 0 : recID(order);
         user.workIn(screen, steps);
     }
+    /// Leaves a screen in which something was typed.
+    void leave() {
+        user.expectForm("System Prompt", [this] { user.press(Qt::Key_Y); });
+        user.press(Qt::Key_Escape);
+    }
     void fill(const QString& name) {
         user.typeInto("edAccount", "C00001");
         user.typeInto("edName", name);

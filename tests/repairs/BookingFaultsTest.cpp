@@ -107,7 +107,7 @@ TEST_F(BookingFaultsTest, anAccountIsBrowsedByQuestionMarkByButtonAndWhenUnknown
         user.click("btnAccount");
         EXPECT_EQ(user.sees("edAccount"), "") << "what was there is gone";
         EXPECT_EQ(user.focus(), "edAccount");
-        user.press(Qt::Key_Escape);
+        leave();
     });
     EXPECT_TRUE(desk.shown.isEmpty()) << desk.shown.join('\n').toStdString();
 }

@@ -122,7 +122,7 @@ TEST_F(BookingInTest, refusalsComeInOrderKeepWhatWasTypedAndTakeNoNumber) {
         }
         EXPECT_EQ(user.sees("edName"), "O'Brien");
         EXPECT_EQ(user.sees("edReference"), "R1");
-        user.press(Qt::Key_Escape);
+        leave();
     });
     show(1, {}, [&] {
         fill("Next");
@@ -236,7 +236,7 @@ TEST_F(BookingInTest, aScannedAccountBringsTheCustomersName) {
         EXPECT_EQ(user.sees("edAccount"), "C00002");
         EXPECT_EQ(user.sees("edName"), name);
         EXPECT_FALSE(gData->vLoadQuery1.Active()) << "others read through it as well";
-        user.press(Qt::Key_Escape);
+        leave();
     });
     Desk::onSuite("DROP TABLE DEBMaster");
     user.expectForm("Debtors: Customer Selection", [&] { user.press(Qt::Key_Escape); });
@@ -246,7 +246,7 @@ TEST_F(BookingInTest, aScannedAccountBringsTheCustomersName) {
         ASSERT_FALSE(desk.shown.isEmpty());
         EXPECT_TRUE(desk.shown[0].startsWith("100A-003|SQL Error reading DEBMaster\r"))
             << desk.shown[0].toStdString();
-        user.press(Qt::Key_Escape);
+        leave();
     });
 }
 
@@ -400,7 +400,7 @@ TEST_F(BookingInTest, enterAndTabGoThroughTheHeaderInTheOrderThatIsSeen) {
             }
             EXPECT_EQ(visited, order) << visited.join(' ').toStdString();
         }
-        user.press(Qt::Key_Escape);
+        leave();
     });
 }
 

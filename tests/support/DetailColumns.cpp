@@ -4,6 +4,9 @@
 #include "data/DateTimeText.h"
 #include "data/Session.h"
 #include "data/Statement.h"
+#include "ui/AmountEdit.h"
+#include "ui/FormBuilder.h"
+#include "ui/Toggle.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -31,7 +34,16 @@ bool takesInput(const QWidget& control) {
 
 /// What the column must hold after the control shows this.
 QString columnText(const QWidget& control, const QString& seen) {
-    return qobject_cast<const QComboBox*>(&control) ? seen.section('-', 0, 0).trimmed() : seen;
+    if (qobject_cast<const QComboBox*>(&control)) {
+        return seen.section('-', 0, 0).trimmed();
+    }
+    if (qobject_cast<const velcro::ui::AmountEdit*>(&control)) {
+        return QString::number(seen.toDouble(), 'g', 15);
+    }
+    if (const auto* toggle = qobject_cast<const velcro::ui::Toggle*>(&control)) {
+        return toggle->isChecked() ? "Y" : "N";
+    }
+    return seen;
 }
 
 class ColumnCheck
@@ -71,7 +83,7 @@ private:
                               before[field.stated->column()])
                         << field.stated->name << " as it was loaded";
                 }
-                if (takesInput(*field.control)) {
+                if (takesInput(*field.control) && field.stated->kind != DetailField::Kind::Other) {
                     typed_[field.stated->column()] = type(field, xFunction);
                 }
             }
@@ -80,13 +92,20 @@ private:
     }
     QString type(const DetailForm::Field& field, int round) {
         const QString name = field.control->objectName();
+        velcro::ui::bringForward(*field.control);
         if (qobject_cast<QComboBox*>(field.control)) {
             field.control->setFocus();
             user_.press(round == 1 ? Qt::Key_End : Qt::Key_Home);
+        } else if (qobject_cast<velcro::ui::Toggle*>(field.control)) {
+            field.control->setFocus();
+            user_.press(Qt::Key_Space);
         } else {
             const auto own = QString::number(round) + field.stated->column();
             const auto given = stated_.typed.value(name, {own, own});
             user_.typeInto(name, round == 1 ? given.first : given.second);
+            if (qobject_cast<velcro::ui::AmountEdit*>(field.control)) {
+                user_.press(Qt::Key_Tab); // rounds
+            }
         }
         return columnText(*field.control, user_.sees(name));
     }

@@ -73,7 +73,9 @@ QStringList namelessControls(QWidget& screen) {
     for (auto* widget : screen.findChildren<QWidget*>()) {
         auto* spoken = QAccessible::queryAccessibleInterface(widget);
         if (widget->isVisible() && !isPartOfControl(*widget) && spoken != nullptr &&
-            isControl(spoken->role()) && spoken->text(QAccessible::Name).trimmed().isEmpty()) {
+            isControl(spoken->role()) && spoken->text(QAccessible::Name).trimmed().isEmpty() &&
+            spoken->relations(QAccessible::Label)
+                .isEmpty()) { // a combo says its entry, and its label
             nameless << described(*widget);
         }
     }
