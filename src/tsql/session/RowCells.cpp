@@ -21,7 +21,17 @@ void addDateTime(RowSetBuilder& rows, std::string_view text) {
     rows.addBytes(std::string(text).append(midnight.substr(text.size())));
 }
 
-void addCell(RowSetBuilder& rows, sqlite3_stmt* statement, int column, ColumnType type) {
+/// SQLite gives no text for NULL, so that it need not be asked for the type of most cells first.
+void addText(RowSetBuilder& rows, sqlite3_stmt* statement, int column) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    if (text == nullptr) {
+        rows.addNull();
+    } else {
+        rows.addBytes({text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+    }
+}
+
+void addOther(RowSetBuilder& rows, sqlite3_stmt* statement, int column, ColumnType type) {
     switch (type) {
     case ColumnType::Integer:
     case ColumnType::Bit:
@@ -36,11 +46,8 @@ void addCell(RowSetBuilder& rows, sqlite3_stmt* statement, int column, ColumnTyp
         rows.addBytes({bytes != nullptr ? bytes : "", size});
         break;
     }
-    case ColumnType::DateTime:
-        addDateTime(rows, cellBytes(statement, column));
-        break;
     default:
-        rows.addBytes(cellBytes(statement, column));
+        addDateTime(rows, cellBytes(statement, column));
     }
 }
 
@@ -104,10 +111,12 @@ Value valueOfCell(const RowSet& rows, std::size_t row, std::size_t column) {
 void addRow(RowSetBuilder& rows, sqlite3_stmt* statement, std::span<const ColumnType> types) {
     for (std::size_t i = 0; i < types.size(); ++i) {
         const int column = static_cast<int>(i);
-        if (sqlite3_column_type(statement, column) == SQLITE_NULL) {
+        if (types[i] == ColumnType::Text || types[i] == ColumnType::Date) {
+            addText(rows, statement, column);
+        } else if (sqlite3_column_type(statement, column) == SQLITE_NULL) {
             rows.addNull();
         } else {
-            addCell(rows, statement, column, types[i]);
+            addOther(rows, statement, column, types[i]);
         }
     }
     rows.endRow();

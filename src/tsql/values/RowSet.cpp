@@ -139,23 +139,53 @@ std::size_t RowSet::memoryUse() const {
 }
 
 RowSetBuilder::RowSetBuilder(std::vector<Column> columns)
-    : data_(std::make_shared<RowSet::Data>()) {
-    ends_.reserve(columns.size());
+    : data_(std::make_shared<RowSet::Data>())
+    , headerBytes_(columns.size() * sizeof(std::uint32_t))
+    , rowBytes_(headerBytes_) {
     data_->columns = std::move(columns);
 }
 
 void RowSetBuilder::addNull() {
-    ends_.push_back(static_cast<std::uint32_t>(cells_.size()) | nullMark);
+    if (rowBytes_ > freeBytes_) {
+        makeRoom(rowBytes_);
+    }
+    endCell(nullMark);
 }
 
 void RowSetBuilder::addBytes(std::string_view value) {
-    if (cells_.size() + value.size() >= nullMark) {
+    const std::size_t size = rowBytes_ + value.size();
+    if (size > freeBytes_) {
+        makeRoom(size);
+    }
+    if (!value.empty()) {
+        std::memcpy(free_ + rowBytes_, value.data(), value.size());
+        rowBytes_ = size;
+    }
+    endCell(0);
+}
+
+void RowSetBuilder::endCell(std::uint32_t mark) {
+    const std::uint32_t end = static_cast<std::uint32_t>(rowBytes_ - headerBytes_) | mark;
+    std::memcpy(free_ + cells_ * sizeof end, &end, sizeof end);
+    ++cells_;
+}
+
+/// What the row has so far goes along to a block that has room for all of it.
+void RowSetBuilder::makeRoom(std::size_t wanted) {
+    if (wanted - headerBytes_ >= nullMark) {
         throw SqlError(SqlErrorKind::Statement, "HY001",
                        {.number = 701, .text = "A row of the result is longer than 2 GB."}, {});
     }
-    const auto* from = reinterpret_cast<const std::byte*>(value.data());
-    cells_.insert(cells_.end(), from, from + value.size());
-    ends_.push_back(static_cast<std::uint32_t>(cells_.size()));
+    // The first block is small, since most results are; later ones take many rows.
+    const auto usual = data_->blocks.empty() ? std::size_t{4096} : blockSize;
+    freeBytes_ = std::max(usual, wanted);
+    auto block = std::make_unique_for_overwrite<std::byte[]>(freeBytes_);
+    if (cells_ > 0) {
+        std::memcpy(block.get(), free_, rowBytes_);
+    }
+    data_->blocks.push_back(std::move(block));
+    data_->blockBytes += freeBytes_;
+    free_ = data_->blocks.back().get();
 }
 
 void RowSetBuilder::addInteger(std::int64_t value) {
@@ -168,27 +198,11 @@ void RowSetBuilder::addFloat(double value) {
 }
 
 void RowSetBuilder::endRow() {
-    const auto header = ends_.size() * sizeof(std::uint32_t);
-    const auto size = header + cells_.size();
-    if (size > freeBytes_) {
-        // The first block is small, since most results are; later ones take many rows.
-        const auto wanted = data_->blocks.empty() ? std::size_t{4096} : blockSize;
-        freeBytes_ = std::max(wanted, size);
-        data_->blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(freeBytes_));
-        data_->blockBytes += freeBytes_;
-        free_ = data_->blocks.back().get();
-    }
-    if (header > 0) {
-        std::memcpy(free_, ends_.data(), header);
-    }
-    if (!cells_.empty()) {
-        std::memcpy(free_ + header, cells_.data(), cells_.size());
-    }
     data_->rows.push_back(free_);
-    free_ += size;
-    freeBytes_ -= size;
-    ends_.clear();
-    cells_.clear();
+    free_ += rowBytes_;
+    freeBytes_ -= rowBytes_;
+    rowBytes_ = headerBytes_;
+    cells_ = 0;
 }
 
 RowSet RowSetBuilder::take() {

@@ -88,9 +88,15 @@ public:
     RowSet take();
 
 private:
+    void endCell(std::uint32_t mark);
+    void makeRoom(std::size_t wanted);
+
     std::shared_ptr<RowSet::Data> data_;
-    std::vector<std::uint32_t> ends_; // of the row being built; the top bit marks NULL
-    std::vector<std::byte> cells_;
+    // The row being built stands where the last block is free: end offset of every cell, the top bit
+    // marks NULL, then the cells.
+    std::size_t headerBytes_;
+    std::size_t rowBytes_; // of that row so far
+    std::size_t cells_ = 0;
     std::byte* free_ = nullptr;
     std::size_t freeBytes_ = 0;
 };
