@@ -460,13 +460,3 @@ TEST_F(BookingInTest, theScreensFitEverySeat) {
         }
     }
 }
-
-TEST_F(BookingInTest, aLookUpLeavesNoSharedQueryOpen) {
-    show(1, {}, [&] {
-        user.typeInto("edAccount", "C00001");
-        user.press(Qt::Key_Return);
-        EXPECT_FALSE(user.sees("edName").isEmpty());
-        EXPECT_FALSE(gData->vLoadQuery1.Active());
-        user.press(Qt::Key_Escape);
-    });
-}

@@ -122,7 +122,7 @@ TEST_F(KeyboardRoadTest, datesAndCodesTypedWithoutAPauseLoseNoLetter) {
                 for (const auto& edit : edits) {
                     seen << user.sees(edit);
                 }
-                user.press(Qt::Key_Escape);
+                leave();
             });
             queueKey(Qt::Key_Insert);
             queueText(ahead);
