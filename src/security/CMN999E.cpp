@@ -29,7 +29,8 @@ TfrmCMN999E::TfrmCMN999E()
     body().addWidget(grid_);
     bindKey(Qt::Key_Escape, this, &TfrmCMN999E::acExit);
     velcro::ui::connectHandler(grid_, &velcro::ui::RowGrid::rowChosen, this, &TfrmCMN999E::choose);
-    velcro::ui::connectHandler(edFind_, &QLineEdit::textChanged, this, &TfrmCMN999E::find);
+    velcro::ui::connectHandler(edFind_, &QLineEdit::textChanged, grid_,
+                               &velcro::ui::RowGrid::filter);
     velcro::ui::connectHandler(edFind_, &QLineEdit::returnPressed, this, &TfrmCMN999E::choose);
 }
 
@@ -45,8 +46,7 @@ void TfrmCMN999E::FormShow() {
     readRows(cData->VelmaraCommon, lines,
              dialogAndFalse("999999", sqlErrorOnTable("vcSettings"), unitName(), "FormShow"),
              [this](const Statement& databases) {
-                 rows_ = databases.rows();
-                 grid_->setRows(rows_);
+                 grid_->setRows(databases.rows());
                  grid_->setFocus();
              });
 }
@@ -72,19 +72,6 @@ void TfrmCMN999E::showFindPanel(const QString& text) {
     edFind_->show();
     edFind_->setFocus();
     edFind_->setText(text);
-}
-
-// Leaves the rows that hold the text; the whole list again when it is blank.
-void TfrmCMN999E::find(const QString& text) {
-    velcro::sql::RowSetBuilder found(
-        {rows_.columnCount() ? rows_.column(0) : velcro::sql::Column{"DisplayName"}});
-    for (std::size_t row = 0; row < rows_.rowCount(); ++row) {
-        if (cellText(rows_, row, 0).contains(text, Qt::CaseInsensitive)) {
-            found.addBytes(rows_.bytes(row, 0));
-            found.endRow();
-        }
-    }
-    grid_->setRows(found.take());
 }
 
 void TfrmCMN999E::choose() {

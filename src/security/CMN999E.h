@@ -1,7 +1,6 @@
 // Picks one of the suite's databases from a list that can be searched by typing.
 #pragma once
 
-#include "platform/sqlserver/RowSet.h"
 #include "screens/Screen.h"
 
 class QLineEdit;
@@ -28,10 +27,8 @@ private:
     void acExit();
     void choose();
     void showFindPanel(const QString& text);
-    void find(const QString& text);
 
     QString chosen_;
-    velcro::sql::RowSet rows_;
     velcro::ui::RowGrid* grid_ = nullptr;
     QLineEdit* edFind_ = nullptr;
 };

@@ -6,8 +6,6 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 ReferencePage::ReferencePage(const QString& gridName, const QString& title,
                              const QStringList& headings, QWidget* parent)
     : QWidget(parent)
@@ -29,7 +27,8 @@ ReferencePage::ReferencePage(const QString& gridName, const QString& title,
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(grid_);
     layout->addWidget(edSearch_);
-    velcro::ui::connectHandler(edSearch_, &QLineEdit::textChanged, this, &ReferencePage::search);
+    velcro::ui::connectHandler(edSearch_, &QLineEdit::textChanged, grid_,
+                               &velcro::ui::RowGrid::filter);
 }
 
 void ReferencePage::addRow(const QStringList& cells) {
@@ -37,7 +36,18 @@ void ReferencePage::addRow(const QStringList& cells) {
 }
 
 void ReferencePage::showRows() {
-    search(QString());
+    std::vector<velcro::sql::Column> columns;
+    for (const QString& field : fields_) {
+        columns.push_back({field.toStdString()});
+    }
+    velcro::sql::RowSetBuilder shown(std::move(columns));
+    for (const QStringList& row : rows_) {
+        for (const QString& cell : row) {
+            shown.addBytes(cell.toStdString());
+        }
+        shown.endRow();
+    }
+    grid_->setRows(shown.take());
 }
 
 bool ReferencePage::footerIsOpen() const {
@@ -59,25 +69,4 @@ void ReferencePage::closeFooter() {
     if (isVisible()) {
         grid_->setFocus();
     }
-}
-
-// Leaves the rows in which any cell holds the text.
-void ReferencePage::search(const QString& text) {
-    std::vector<velcro::sql::Column> columns;
-    for (const QString& field : fields_) {
-        columns.push_back({field.toStdString()});
-    }
-    velcro::sql::RowSetBuilder shown(std::move(columns));
-    for (const QStringList& row : rows_) {
-        const bool fits = std::any_of(row.begin(), row.end(), [&text](const QString& cell) {
-            return cell.contains(text, Qt::CaseInsensitive);
-        });
-        if (fits) {
-            for (const QString& cell : row) {
-                shown.addBytes(cell.toStdString());
-            }
-            shown.endRow();
-        }
-    }
-    grid_->setRows(shown.take());
 }

@@ -33,8 +33,6 @@ public:
     void closeFooter();
 
 private:
-    void search(const QString& text);
-
     QString title_;
     QStringList fields_;
     QList<QStringList> rows_;

@@ -1,11 +1,11 @@
 #include "ui/GridPrinter.h"
 
+#include "ui/GridVisitor.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
 #include "ui/RowGrid.h"
 
 #include <QFontDatabase>
-#include <QHeaderView>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrintPreviewDialog>
@@ -16,8 +16,107 @@
 namespace velcro::ui {
 
 namespace {
+
 constexpr double cellGap = 4; // points between the text of two columns
-}
+constexpr double mmPerInch = 25.4;
+
+/// Fills page after page with what it is told of the grid.
+class Pages : public GridVisitor
+{
+public:
+    Pages(const GridPrinter& facts, QPrinter& printer)
+        : facts_(facts)
+        , printer_(printer)
+        , painter_(&printer)
+        , page_(QPointF(), printer.pageLayout().paintRectPixels(printer.resolution()).size()) {
+        painter_.setFont(facts.titleFont);
+        height_ = painter_.fontMetrics().height() * 1.4;
+    }
+
+    // Columns keep the proportions they have on screen and fill the page.
+    void begin(const std::vector<VisibleColumn>& columns, int /*rows*/) override {
+        double onScreen = 0;
+        for (const auto& column : columns) {
+            onScreen += column.width;
+        }
+        double left = 0;
+        for (const auto& column : columns) {
+            const double width = page_.width() * column.width / onScreen;
+            columns_.push_back({column.heading, left, width - cellGap,
+                                column.isNumeric() ? Qt::AlignRight : Qt::AlignLeft});
+            left += width;
+        }
+        beginPage();
+    }
+
+    void beginRow(int /*row*/) override {
+        if (top_ + 2 * height_ > page_.height()) {
+            printer_.newPage();
+            beginPage();
+        } else {
+            top_ += height_;
+        }
+    }
+
+    void cell(int position, const GridCell& cell) override {
+        const auto& column = columns_[position];
+        write(column, painter_.fontMetrics().elidedText(cell.text(), Qt::ElideRight,
+                                                        static_cast<int>(column.width)));
+    }
+
+private:
+    struct Column
+    {
+        QString heading;
+        double left;
+        double width;
+        Qt::AlignmentFlag alignment;
+    };
+
+    // Title, headings, and room for the first row below them.
+    void beginPage() {
+        ++number_;
+        painter_.setFont(facts_.titleFont);
+        top_ = writeTitle() + facts_.headerHeightMm / mmPerInch * printer_.resolution();
+        auto bold = facts_.titleFont;
+        bold.setBold(true);
+        painter_.setFont(bold);
+        for (const auto& column : columns_) {
+            write(column, column.heading);
+        }
+        painter_.drawLine(QPointF(0, top_ + height_), QPointF(page_.width(), top_ + height_));
+        painter_.setFont(facts_.titleFont);
+    }
+
+    double writeTitle() {
+        const double lineHeight = painter_.fontMetrics().lineSpacing();
+        const auto lines = std::max(facts_.leftTitle.size(), facts_.rightTitle.size());
+        for (int i = 0; i < lines; ++i) {
+            const QRectF line(0, i * lineHeight, page_.width(), lineHeight);
+            painter_.drawText(line, Qt::AlignLeft, facts_.leftTitle.value(i));
+            auto right = facts_.rightTitle.value(i);
+            right.replace(QStringLiteral("[Page #]"), QString::number(number_));
+            painter_.drawText(line, Qt::AlignRight, right);
+        }
+        return static_cast<double>(lines) * lineHeight;
+    }
+
+    void write(const Column& column, const QString& text) {
+        painter_.drawText(QRectF(column.left, top_, column.width, height_),
+                          Qt::AlignVCenter | column.alignment, text);
+    }
+
+    const GridPrinter& facts_;
+    QPrinter& printer_;
+    QPainter painter_;
+    QRectF page_;
+    std::vector<Column> columns_;
+    double height_ = 0; // of a row
+    double top_ = 0;    // of the row that is written
+    int number_ = 0;    // of the page
+};
+
+} // namespace
 
 GridPrinter::GridPrinter(const RowGrid& grid)
     : titleFont(QFontDatabase::systemFont(QFontDatabase::FixedFont))
@@ -34,96 +133,10 @@ void GridPrinter::preview(QWidget* parent) const {
     runModal(dialog);
 }
 
-// Columns keep the proportions they have on screen and fill the page.
-std::vector<GridPrinter::Column> GridPrinter::placeColumns(double pageWidth) const {
-    const auto* header = grid_->horizontalHeader();
-    double onScreen = 0;
-    for (int i = 0; i < header->count(); ++i) {
-        onScreen += header->isSectionHidden(i) ? 0 : header->sectionSize(i);
-    }
-    std::vector<Column> columns;
-    double left = 0;
-    for (int visual = 0; visual < header->count(); ++visual) {
-        const int index = header->logicalIndex(visual);
-        if (!header->isSectionHidden(index)) {
-            const double width = pageWidth * header->sectionSize(index) / onScreen;
-            columns.push_back({index, left, width});
-            left += width;
-        }
-    }
-    return columns;
-}
-
-double GridPrinter::printTitle(QPainter& painter, const QRectF& page, int pageNumber) const {
-    painter.setFont(titleFont);
-    const double lineHeight = painter.fontMetrics().lineSpacing();
-    const auto lines = std::max(leftTitle.size(), rightTitle.size());
-    for (int i = 0; i < lines; ++i) {
-        const QRectF line(0, i * lineHeight, page.width(), lineHeight);
-        painter.drawText(line, Qt::AlignLeft, leftTitle.value(i));
-        auto right = rightTitle.value(i);
-        right.replace(QStringLiteral("[Page #]"), QString::number(pageNumber));
-        painter.drawText(line, Qt::AlignRight, right);
-    }
-    return static_cast<double>(lines) * lineHeight;
-}
-
-void GridPrinter::printHeadings(QPainter& painter, const std::vector<Column>& columns, double top,
-                                double height) const {
-    auto font = titleFont;
-    font.setBold(true);
-    painter.setFont(font);
-    for (const auto& column : columns) {
-        const auto& model = grid_->rowModel();
-        const QRectF cell(column.left, top, column.width - cellGap, height);
-        painter.drawText(cell,
-                         Qt::AlignVCenter |
-                             (model.isNumeric(column.index) ? Qt::AlignRight : Qt::AlignLeft),
-                         model.columns()[column.index].heading());
-    }
-    const auto& last = columns.back();
-    painter.drawLine(QPointF(0, top + height), QPointF(last.left + last.width, top + height));
-    painter.setFont(titleFont);
-}
-
-void GridPrinter::printRow(QPainter& painter, const std::vector<Column>& columns, int row,
-                           double top, double height) const {
-    const auto& model = grid_->rowModel();
-    for (const auto& column : columns) {
-        const QRectF cell(column.left, top, column.width - cellGap, height);
-        const auto text = painter.fontMetrics().elidedText(
-            model.text(row, column.index), Qt::ElideRight, static_cast<int>(cell.width()));
-        painter.drawText(cell,
-                         Qt::AlignVCenter |
-                             (model.isNumeric(column.index) ? Qt::AlignRight : Qt::AlignLeft),
-                         text);
-    }
-}
-
 void GridPrinter::print(QPrinter& printer) const {
     printer.setPageMargins(marginsMm, QPageLayout::Millimeter);
-    QPainter painter(&printer);
-    const QRectF page(QPointF(), printer.pageLayout().paintRectPixels(printer.resolution()).size());
-    const auto columns = placeColumns(page.width());
-    if (columns.empty()) {
-        return;
-    }
-    painter.setFont(titleFont);
-    const double height = painter.fontMetrics().height() * 1.4;
-    const double gap = headerHeightMm / 25.4 * printer.resolution();
-    const int rows = grid_->rowModel().rowCount();
-    int row = 0;
-    int pageNumber = 1;
-    do {
-        if (pageNumber > 1) {
-            printer.newPage();
-        }
-        double top = printTitle(painter, page, pageNumber++) + gap;
-        printHeadings(painter, columns, top, height);
-        for (top += height; row < rows && top + height <= page.height(); top += height) {
-            printRow(painter, columns, row++, top, height);
-        }
-    } while (row < rows);
+    Pages pages(*this, printer);
+    visitGrid(*grid_, pages);
 }
 
 } // namespace velcro::ui

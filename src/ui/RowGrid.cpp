@@ -6,10 +6,15 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
 #include <QScroller>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace velcro::ui {
@@ -19,7 +24,38 @@ constexpr int sampleRows = 200; // enough to know how wide a column is
 constexpr int cellPadding = 24;
 constexpr int narrowest = 56;
 constexpr int widest = 320;
-constexpr int textMargin = 7; // brings a cell's text below its heading's
+constexpr int narrowedText = 22; // letters of a long text that are seen where room is short
+constexpr int textMargin = 7;    // brings a cell's text below its heading's
+constexpr int tickBox = 24;
+
+// A box as large as a finger's tip, with a mark that is seen without its colour.
+void paintTick(QPainter& painter, const QStyleOptionViewItem& cell, bool ticked) {
+    const auto& palette = cell.palette;
+    QRectF box(0, 0, tickBox, tickBox);
+    box.moveCenter(QRectF(cell.rect).center());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette.color(QPalette::Text), 1.5));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawRoundedRect(box, 4, 4);
+    if (ticked) {
+        QPainterPath mark(box.topLeft() + QPointF(5, 13));
+        mark.lineTo(box.topLeft() + QPointF(10, 18));
+        mark.lineTo(box.topLeft() + QPointF(19, 6));
+        painter.setPen(QPen(palette.color(QPalette::Text), 3));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(mark);
+    }
+    painter.restore();
+}
+
+// Tells which of the cells that can be typed into the user stands on.
+void paintFrame(QPainter& painter, const QStyleOptionViewItem& cell) {
+    painter.save();
+    painter.setPen(QPen(cell.palette.color(QPalette::HighlightedText), 2));
+    painter.drawRect(QRectF(cell.rect).adjusted(3, 3, -3, -3));
+    painter.restore();
+}
 
 // Cells with room beside their text. A style sheet's padding serves selected cells alone.
 class CellPainter : public QStyledItemDelegate
@@ -33,11 +69,69 @@ public:
         initStyleOption(&cell, index);
         auto* style = cell.widget->style();
         const QString text = std::exchange(cell.text, QString());
+        const bool isTick = cell.features.testFlag(QStyleOptionViewItem::HasCheckIndicator);
+        cell.features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        if (isTick) {
+            paintTick(*painter, cell, cell.checkState == Qt::Checked);
+        }
+        if (option.state.testFlag(QStyle::State_HasFocus) &&
+            index.flags().testFlag(Qt::ItemIsEditable)) {
+            paintFrame(*painter, cell);
+        }
         cell.text = text;
         cell.rect.adjust(textMargin, 0, -textMargin, 0);
         cell.state &= ~QStyle::State_HasFocus;
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                          const QModelIndex& index) const override {
+        auto* edit = new QLineEdit(parent);
+        edit->setObjectName(QStringLiteral("edCell"));
+        edit->setAccessibleName(
+            index.model()->headerData(index.column(), Qt::Horizontal).toString());
+        const auto& model = static_cast<const RowSetModel&>(*index.model());
+        if (const int limit = model.columns()[index.column()].limit; limit > 0) {
+            edit->setMaxLength(limit);
+        }
+        return edit;
+    }
+
+    // A tap anywhere in a tick's cell ticks.
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override {
+        if (!index.flags().testFlag(Qt::ItemIsUserCheckable)) {
+            return QStyledItemDelegate::editorEvent(event, model, option, index);
+        }
+        if (event->type() != QEvent::MouseButtonRelease ||
+            static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+            return false;
+        }
+        const bool on = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return model->setData(index, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    }
+};
+
+/// Keeps room for the arrow of the sorting where the arrow is.
+class HeadingBar : public QHeaderView
+{
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    QSize sectionSizeFromContents(int section) const override {
+        if (section == sortIndicatorSection()) {
+            return QHeaderView::sectionSizeFromContents(section);
+        }
+        QStyleOptionHeader heading;
+        initStyleOption(&heading);
+        auto bold = font();
+        bold.setBold(true);
+        heading.fontMetrics = QFontMetrics(bold);
+        heading.section = section;
+        heading.text = model()->headerData(section, Qt::Horizontal).toString();
+        return style()->sizeFromContents(QStyle::CT_HeaderSection, &heading, {}, this);
     }
 };
 
@@ -58,15 +152,21 @@ RowGrid::RowGrid(QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(
-        std::max(velcro::ui::rowHeight, fontMetrics().height() + 12));
-    auto* header = horizontalHeader();
-    header->setHighlightSections(false);
+    auto* header = new HeadingBar(Qt::Horizontal, this);
+    setHorizontalHeader(header);
+    header->setSectionsClickable(true);
     header->setSectionsMovable(true);
     header->setMinimumHeight(touchHeight);
     header->setSortIndicatorClearable(true);
     header->setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
+    connectHandler(header, &QHeaderView::sortIndicatorChanged, this,
+                   [this](int section, Qt::SortOrder) {
+                       if (section >= 0 && section < model_.columnCount()) {
+                           const int heading = horizontalHeader()->sectionSizeHint(section);
+                           setColumnWidth(section, std::max(columnWidth(section), heading));
+                       }
+                   });
     QScroller::grabGesture(viewport(), QScroller::TouchGesture);
     connectHandler(this, &QTableView::doubleClicked, this, &RowGrid::rowChosen);
 }
@@ -74,7 +174,20 @@ RowGrid::RowGrid(QWidget* parent)
 void RowGrid::setColumns(std::vector<GridColumn> columns) {
     model_.setColumns(std::move(columns));
     showOnlyVisibleColumns();
+    allowEditing();
     columnsFitted_ = false;
+}
+
+// A note is opened by typing on it, a second tap, F2 or a double click.
+void RowGrid::allowEditing() {
+    const auto& columns = model_.columns();
+    const auto tick = std::ranges::find(columns, CellType::Tick, &GridColumn::type);
+    tickColumn_ = tick == columns.end() ? -1 : static_cast<int>(tick - columns.begin());
+    const bool editable = std::ranges::any_of(columns, &GridColumn::editable);
+    setEditTriggers(editable ? AnyKeyPressed | EditKeyPressed | SelectedClicked | DoubleClicked
+                             : EditTriggers(NoEditTriggers));
+    verticalHeader()->setDefaultSectionSize(
+        std::max(editable ? touchHeight : velcro::ui::rowHeight, fontMetrics().height() + 12));
 }
 
 void RowGrid::showOnlyVisibleColumns() {
@@ -110,6 +223,12 @@ bool RowGrid::locate(const QString& field, const QString& value) {
         }
     }
     return false;
+}
+
+void RowGrid::filter(const QString& text) {
+    model_.setTextFilter(text);
+    first();
+    emit currentRecordChanged();
 }
 
 void RowGrid::first() {
@@ -158,10 +277,34 @@ void RowGrid::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_End:
             last();
             break;
+        case Qt::Key_Space:
+            tickCurrent();
+            break;
         default:
             QTableView::keyPressEvent(event);
         }
     });
+}
+
+void RowGrid::tickCurrent() {
+    if (const auto row = currentResultRow(); row && tickColumn_ >= 0) {
+        model_.setTicked(*row, tickColumn_, !model_.isTicked(*row, tickColumn_));
+    }
+}
+
+// Tab ends the edit as Enter does, and stays on the cell.
+void RowGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const bool goesOn = hint == QAbstractItemDelegate::EditNextItem ||
+                        hint == QAbstractItemDelegate::EditPreviousItem;
+    QTableView::closeEditor(editor, goesOn ? QAbstractItemDelegate::NoHint : hint);
+}
+
+void RowGrid::endEdit() {
+    if (state() == EditingState) {
+        auto* editor = indexWidget(currentIndex());
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 void RowGrid::showEvent(QShowEvent* event) {
@@ -171,35 +314,78 @@ void RowGrid::showEvent(QShowEvent* event) {
     }
 }
 
+// A cut number reads as another number, so those are measured to the last one.
 int RowGrid::sizeHintForColumn(int column) const {
     const QFontMetrics metrics(font());
+    const int rows = model_.rowCount();
     int width = 0;
-    for (int row = 0; row < std::min(sampleRows, model_.rowCount()); ++row) {
+    for (int row = 0; row < std::min(sampleRows, rows); ++row) {
         width = std::max(width, metrics.horizontalAdvance(model_.text(row, column)));
+    }
+    if (model_.isNumeric(column)) {
+        QString longest;
+        for (int row = sampleRows; row < rows; ++row) {
+            const auto text = model_.text(row, column);
+            longest = text.size() > longest.size() ? text : longest;
+        }
+        width = std::max(width, metrics.horizontalAdvance(longest));
     }
     return width + cellPadding;
 }
 
-void RowGrid::fitColumns() {
-    auto* header = horizontalHeader();
-    int used = 0;
-    int widestColumn = -1;
-    for (int i = 0; i < model_.columnCount(); ++i) {
-        const int wanted = std::max(sizeHintForColumn(i), header->sectionSizeHint(i));
-        header->resizeSection(i, std::clamp(wanted, narrowest, widest));
-        if (!isColumnHidden(i)) {
-            used += columnWidth(i);
-            widestColumn =
-                widestColumn < 0 || columnWidth(i) > columnWidth(widestColumn) ? i : widestColumn;
+std::vector<RowGrid::Fit> RowGrid::wantedWidths() const {
+    std::vector<Fit> fits;
+    const auto* header = horizontalHeader();
+    const int narrowed = narrowedText * QFontMetrics(font()).averageCharWidth() + cellPadding;
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int i = header->logicalIndex(visual);
+        if (isColumnHidden(i)) {
+            continue;
         }
+        const int heading = header->sectionSizeHint(i);
+        const int wanted = std::clamp(std::max(sizeHintForColumn(i), heading), narrowest, widest);
+        const bool text = model_.cellType(i) == CellType::Text;
+        fits.push_back({i, wanted, text ? std::min(wanted, std::max(narrowed, heading)) : wanted});
     }
+    return fits;
+}
+
+// Where not all columns fit, long texts give way so that more columns are seen, and none of those
+// is cut at the edge.
+void RowGrid::shareRoom(std::vector<Fit>& fits, int room) {
+    const int all = std::accumulate(fits.begin(), fits.end(), 0,
+                                    [](int sum, const Fit& fit) { return sum + fit.wanted; });
+    const bool scarce = all > room;
+    auto end = fits.begin();
+    for (auto& fit : fits) {
+        fit.width = scarce ? fit.narrow : fit.wanted;
+    }
+    while (end != fits.end() && end->width <= room) {
+        room -= end->width;
+        ++end;
+    }
+    for (auto fit = fits.begin(); fit != end; ++fit) {
+        const int more = std::min(room, fit->wanted - fit->width);
+        fit->width += more;
+        room -= more;
+    }
+    // What is left goes to the widest column, which is the one with the names.
+    if (end != fits.begin()) {
+        std::max_element(fits.begin(), end, [](const Fit& a, const Fit& b) {
+            return a.width < b.width;
+        })->width += room;
+    }
+}
+
+void RowGrid::fitColumns() {
     // The scroll bar of the new rows takes its room now and not with the next event.
     updateGeometries();
     QEvent layout(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &layout);
-    // Room that is left goes to the widest column, which is the one with the names.
-    if (widestColumn >= 0 && used < viewport()->width()) {
-        header->resizeSection(widestColumn, columnWidth(widestColumn) + viewport()->width() - used);
+    auto fits = wantedWidths();
+    shareRoom(fits, viewport()->width());
+    for (const auto& fit : fits) {
+        setColumnWidth(fit.index, fit.width);
     }
     columnsFitted_ = model_.rowCount() > 0; // until then the headings alone decide
 }

@@ -1,4 +1,5 @@
-// The grid of the list screens: whole rows, sorted by a click on a heading, read at arm's length.
+// The grid of the screens: whole rows, sorted by a click on a heading, read at arm's length. Columns
+// that are declared so can be ticked and typed into.
 #pragma once
 
 #include "ui/RowSetModel.h"
@@ -24,11 +25,16 @@ public:
     std::optional<std::size_t> currentResultRow() const;
     /// Stands on the row whose field reads as the value; false, and stays, when there is none.
     bool locate(const QString& field, const QString& value);
+    /// Leaves the rows that show the text somewhere, in any case, and stands on the first one.
+    void filter(const QString& text);
 
     void first();
     void previous();
     void next();
     void last();
+
+    /// Takes what is being typed into a cell.
+    void endEdit();
 
 signals:
     /// Enter on a row, or a double click.
@@ -38,16 +44,30 @@ signals:
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     int sizeHintForColumn(int column) const override;
 
 private:
     void showOnlyVisibleColumns();
+    void allowEditing();
+    void tickCurrent();
+    /// A column on first show.
+    struct Fit
+    {
+        int index;
+        int wanted; // shows all of it
+        int narrow; // shows enough of it
+        int width = 0;
+    };
+    std::vector<Fit> wantedWidths() const;
+    static void shareRoom(std::vector<Fit>& fits, int room);
     void fitColumns();
     void goTo(int viewRow);
 
     RowSetModel model_;
+    int tickColumn_ = -1;
     bool columnsFitted_ = false;
 };
 

@@ -25,6 +25,55 @@ void orderByKeys(std::vector<std::uint32_t>& order, const std::vector<Key>& keys
     }
 }
 
+CellType typeOf(sql::ColumnType type) {
+    switch (type) {
+    case sql::ColumnType::Integer:
+        return CellType::Whole;
+    case sql::ColumnType::Float:
+        return CellType::Decimal;
+    case sql::ColumnType::Date:
+    case sql::ColumnType::DateTime:
+        return CellType::Date;
+    default:
+        return CellType::Text;
+    }
+}
+
+/// yyyy/mm/dd or yyyy-mm-dd, with hh:mm[:ss[.mmm]] after a blank or without; invalid otherwise.
+QDateTime dateOf(QString text) {
+    text.replace(QLatin1Char('/'), QLatin1Char('-'));
+    const auto blank = text.indexOf(QLatin1Char(' '));
+    const auto date = QDate::fromString(text.left(blank), Qt::ISODate);
+    const auto time = blank < 0 ? QTime(0, 0) : QTime::fromString(text.mid(blank + 1), Qt::ISODate);
+    return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
+}
+
+CellValue typedValue(const QString& text, CellType type) {
+    bool reads = false;
+    switch (type) {
+    case CellType::Whole:
+        if (const qint64 whole = text.toLongLong(&reads); reads) {
+            return whole;
+        }
+        break;
+    case CellType::Decimal:
+        if (const double decimal = text.toDouble(&reads); reads) {
+            return decimal;
+        }
+        break;
+    case CellType::Date:
+        if (const auto date = dateOf(text); date.isValid()) {
+            return date;
+        }
+        break;
+    default:
+        break;
+    }
+    return text;
+}
+
+const QString ticked = QStringLiteral("Y");
+
 } // namespace
 
 RowSetModel::RowSetModel(QObject* parent)
@@ -34,16 +83,18 @@ RowSetModel::RowSetModel(QObject* parent)
 void RowSetModel::setColumns(std::vector<GridColumn> columns) {
     beginResetModel();
     columns_ = std::move(columns);
+    edits_.clear();
     bindColumns();
-    orderRows();
+    arrange();
     endResetModel();
 }
 
 void RowSetModel::setRows(const sql::RowSet& rows) {
     beginResetModel();
     rows_ = rows;
+    edits_.clear();
     bindColumns();
-    orderRows();
+    arrange();
     endResetModel();
 }
 
@@ -56,56 +107,175 @@ void RowSetModel::bindColumns() {
 }
 
 std::size_t RowSetModel::resultRow(int viewRow) const {
-    return order_.empty() ? static_cast<std::size_t>(viewRow) : order_[viewRow];
+    return arranged_ ? order_[viewRow] : static_cast<std::size_t>(viewRow);
 }
 
 int RowSetModel::viewRow(std::size_t resultRow) const {
-    if (order_.empty()) {
+    if (!arranged_) {
         return static_cast<int>(resultRow);
     }
     const auto found = std::find(order_.begin(), order_.end(), resultRow);
     return found == order_.end() ? -1 : static_cast<int>(found - order_.begin());
 }
 
+int RowSetModel::columnOf(const QString& name) const {
+    const auto find = [&](auto nameOf) {
+        const auto found = std::ranges::find_if(columns_, [&](const GridColumn& column) {
+            return nameOf(column).compare(name, Qt::CaseInsensitive) == 0;
+        });
+        return found == columns_.end() ? -1 : static_cast<int>(found - columns_.begin());
+    };
+    const int byField = find([](const GridColumn& column) { return column.field; });
+    return byField >= 0 ? byField : find([](const GridColumn& column) { return column.heading(); });
+}
+
+CellType RowSetModel::cellType(int column) const {
+    const auto& declared = columns_[column];
+    if (declared.display != nullptr) {
+        return CellType::Text;
+    }
+    if (declared.type != CellType::AsRead) {
+        return declared.type;
+    }
+    const auto source = sources_[column];
+    return source ? typeOf(rows_.column(*source).type) : CellType::Text;
+}
+
 bool RowSetModel::isNumeric(int column) const {
-    if (columns_[column].numeric) {
-        return true;
+    const auto type = cellType(column);
+    return type == CellType::Whole || type == CellType::Decimal;
+}
+
+const QString* RowSetModel::edited(std::size_t resultRow, int column) const {
+    if (edits_.empty()) {
+        return nullptr;
     }
-    if (!sources_[column] || columns_[column].display != nullptr) {
-        return false;
+    const auto found = edits_.find({resultRow, column});
+    return found == edits_.end() ? nullptr : &found->second;
+}
+
+QString RowSetModel::stored(std::size_t resultRow, int column) const {
+    if (const auto* text = edited(resultRow, column)) {
+        return *text;
     }
-    const auto type = rows_.column(*sources_[column]).type;
-    return type == sql::ColumnType::Integer || type == sql::ColumnType::Float ||
-           type == sql::ColumnType::Decimal;
+    const auto source = sources_[column];
+    return source ? read_(rows_, resultRow, *source) : QString();
+}
+
+QString RowSetModel::shown(std::size_t resultRow, int column) const {
+    const auto display = columns_[column].display;
+    const auto text = stored(resultRow, column);
+    return display != nullptr ? display(text) : text;
 }
 
 QString RowSetModel::text(int viewRow, int column) const {
-    const auto source = sources_[column];
-    if (!source) {
-        return {};
+    return shown(resultRow(viewRow), column);
+}
+
+// Numbers are taken as they were read, without a text in between.
+CellValue RowSetModel::value(int viewRow, int column) const {
+    const auto row = resultRow(viewRow);
+    const auto type = cellType(column);
+    if (type == CellType::Tick) {
+        return isTicked(row, column);
     }
-    const auto stored = read_(rows_, resultRow(viewRow), *source);
-    const auto display = columns_[column].display;
-    return display != nullptr ? display(stored) : stored;
+    const auto source = sources_[column];
+    if (source && edited(row, column) == nullptr) {
+        if (rows_.isNull(row, *source)) {
+            return {};
+        }
+        const auto held = rows_.column(*source).type;
+        if (type == CellType::Whole && held == sql::ColumnType::Integer) {
+            return static_cast<qint64>(rows_.integer(row, *source));
+        }
+        if (type == CellType::Decimal && held == sql::ColumnType::Float) {
+            return rows_.number(row, *source);
+        }
+    }
+    const auto text = shown(row, column);
+    return text.isEmpty() ? CellValue() : typedValue(text, type);
+}
+
+void RowSetModel::setStored(std::size_t resultRow, int column, const QString& text) {
+    edits_[{resultRow, column}] = text;
+    if (const int row = viewRow(resultRow); row >= 0) {
+        emit dataChanged(index(row, column), index(row, column));
+    }
+}
+
+void RowSetModel::setTicked(std::size_t resultRow, int column, bool on) {
+    setStored(resultRow, column, on ? ticked : QString());
+}
+
+bool RowSetModel::isTicked(std::size_t resultRow, int column) const {
+    return stored(resultRow, column) == ticked;
 }
 
 int RowSetModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.rowCount());
+    if (parent.isValid()) {
+        return 0;
+    }
+    return static_cast<int>(arranged_ ? order_.size() : rows_.rowCount());
 }
 
 int RowSetModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
+// A screen reader says the tick with what is ticked, which stands in the next column.
+QString RowSetModel::spokenTick(std::size_t resultRow, int column) const {
+    const auto what = column + 1 < columnCount() ? shown(resultRow, column + 1) : QString();
+    return what + (isTicked(resultRow, column) ? QStringLiteral(" ticked")
+                                               : QStringLiteral(" not ticked"));
+}
+
 QVariant RowSetModel::data(const QModelIndex& index, int role) const {
+    const bool tick = columns_[index.column()].type == CellType::Tick;
     switch (role) {
     case Qt::DisplayRole:
-        return text(index.row(), index.column());
+        return tick ? QString() : text(index.row(), index.column());
+    case Qt::EditRole:
+        return stored(resultRow(index.row()), index.column());
+    case Qt::CheckStateRole:
+        if (tick) {
+            return isTicked(resultRow(index.row()), index.column()) ? Qt::Checked : Qt::Unchecked;
+        }
+        return {};
+    case Qt::AccessibleTextRole:
+        if (tick) {
+            return spokenTick(resultRow(index.row()), index.column());
+        }
+        return {};
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (isNumeric(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
     default:
         return {};
     }
+}
+
+bool RowSetModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (!columns_[index.column()].editable) {
+        return false;
+    }
+    const auto row = resultRow(index.row());
+    if (role == Qt::CheckStateRole) {
+        setTicked(row, index.column(), value.toInt() == Qt::Checked);
+        return true;
+    }
+    if (role == Qt::EditRole) {
+        setStored(row, index.column(), value.toString());
+        return true;
+    }
+    return false;
+}
+
+Qt::ItemFlags RowSetModel::flags(const QModelIndex& index) const {
+    auto flags = QAbstractTableModel::flags(index);
+    if (index.isValid() && columns_[index.column()].editable) {
+        flags |= columns_[index.column()].type == CellType::Tick ? Qt::ItemIsUserCheckable
+                                                                 : Qt::ItemIsEditable;
+    }
+    return flags;
 }
 
 QVariant RowSetModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -122,52 +292,83 @@ QVariant RowSetModel::headerData(int section, Qt::Orientation orientation, int r
     }
 }
 
+void RowSetModel::setFilter(RowFilter filter) {
+    filter_ = std::move(filter);
+    rearrange();
+}
+
+void RowSetModel::setTextFilter(const QString& text) {
+    if (text.isEmpty()) {
+        setFilter({});
+        return;
+    }
+    setFilter([this, text](std::size_t row) {
+        for (int i = 0; i < columnCount(); ++i) {
+            if (columns_[i].visible && shown(row, i).contains(text, Qt::CaseInsensitive)) {
+                return true;
+            }
+        }
+        return false;
+    });
+}
+
 void RowSetModel::sort(int column, Qt::SortOrder order) {
+    sortColumn_ = column < columnCount() ? column : -1;
+    sortOrder_ = order;
+    rearrange();
+}
+
+// The user stays on the row that he stands on, as long as it is shown.
+void RowSetModel::rearrange() {
     emit layoutAboutToBeChanged();
     const auto before = persistentIndexList();
     std::vector<std::size_t> rowsBefore;
     for (const auto& index : before) {
         rowsBefore.push_back(resultRow(index.row()));
     }
-    sortColumn_ = column < columnCount() ? column : -1;
-    sortOrder_ = order;
-    orderRows();
+    arrange();
     for (int i = 0; i < before.size(); ++i) {
-        changePersistentIndex(before[i], index(viewRow(rowsBefore[i]), before[i].column()));
+        const int row = viewRow(rowsBefore[i]);
+        changePersistentIndex(before[i], row < 0 ? QModelIndex() : index(row, before[i].column()));
     }
     emit layoutChanged();
 }
 
-void RowSetModel::orderRows() {
+void RowSetModel::arrange() {
+    const bool sorted = sortColumn_ >= 0 && sortColumn_ < columnCount();
+    arranged_ = filter_ || sorted;
     order_.clear();
-    if (sortColumn_ < 0 || sortColumn_ >= columnCount() || !sources_[sortColumn_]) {
+    if (!arranged_) {
         return;
     }
     order_.resize(rows_.rowCount());
     std::iota(order_.begin(), order_.end(), 0U);
+    if (filter_) {
+        std::erase_if(order_, [this](auto row) { return !filter_(row); });
+    }
+    if (!sorted) {
+        return;
+    }
+    const auto sortBy = [this](auto key) {
+        std::vector<decltype(key(std::size_t()))> keys(rows_.rowCount());
+        for (const auto row : order_) {
+            keys[row] = key(row);
+        }
+        orderByKeys(order_, keys, sortOrder_);
+    };
     if (isNumeric(sortColumn_)) {
-        orderByNumber(*sources_[sortColumn_]);
+        sortBy([this](std::size_t row) { return number(row, sortColumn_); });
     } else {
-        orderByText(sortColumn_);
+        sortBy([this](std::size_t row) { return shown(row, sortColumn_).toCaseFolded(); });
     }
 }
 
-void RowSetModel::orderByNumber(std::size_t source) {
-    std::vector<double> keys(rows_.rowCount());
-    for (std::size_t row = 0; row < keys.size(); ++row) {
-        keys[row] = rows_.number(row, source);
+double RowSetModel::number(std::size_t resultRow, int column) const {
+    const auto* text = edited(resultRow, column);
+    if (text != nullptr || !sources_[column]) {
+        return text != nullptr ? text->toDouble() : 0;
     }
-    orderByKeys(order_, keys, sortOrder_);
-}
-
-void RowSetModel::orderByText(int column) {
-    const auto display = columns_[column].display;
-    std::vector<QString> keys(rows_.rowCount());
-    for (std::size_t row = 0; row < keys.size(); ++row) {
-        const auto stored = read_(rows_, row, *sources_[column]);
-        keys[row] = (display != nullptr ? display(stored) : stored).toCaseFolded();
-    }
-    orderByKeys(order_, keys, sortOrder_);
+    return rows_.number(resultRow, *sources_[column]);
 }
 
 } // namespace velcro::ui
