@@ -1,7 +1,6 @@
 #include "lookups/CRO900.h"
 
 #include "data/Session.h"
-#include "data/Settings.h"
 #include "data/StatementText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -44,10 +43,7 @@ TfrmCRO900::TfrmCRO900(QWidget* parent)
     auto select = selectButton();
     select.needsRecord = true;
     setButtons({.options = {select}, .functions = {searchButton(), restoreButton({Qt::Key_F12})}});
-    // Seats that are worked by touch alone want no keyboard hints.
-    if (sfvel_GetParam(u"TIL"_s, 62) == "Y"_L1) {
-        hideKeyCaps();
-    }
+    hideKeyCapsBySeat();
 }
 
 // clang-format off

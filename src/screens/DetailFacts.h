@@ -135,7 +135,8 @@ struct DetailFacts
     const char* inserts;
     const char* updates;
     std::vector<ColumnValue> values = {};
-    bool stamped = false;                // both statements end with the stamp of the last change
-    bool validatesDelete = true;         // a row is checked before it is deleted
+    bool stamped = false;        // both statements end with the stamp of the last change
+    bool validatesDelete = true; // a row is checked before it is deleted
+    bool keyCapsBySeat = false;  // no pictures of keys on a seat that is worked by touch alone
     const char* firstInUpdate = nullptr; // control with the focus; none: the first changeable one
 };

@@ -50,6 +50,9 @@ DetailScreen::DetailScreen(DetailFacts facts, QWidget* parent)
     , facts_(std::move(facts)) {
     makeForm();
     makeButtons();
+    if (facts_.keyCapsBySeat) {
+        hideKeyCapsBySeat();
+    }
 }
 
 void DetailScreen::makeForm() {

@@ -24,6 +24,9 @@ public:
     bool refuse(QWidget* control, const QString& message);
     /// Takes message and mark away.
     void clearRefusal();
+    /// The user has changed something: leaving without a save asks first. Happens by itself for all
+    /// stated controls but those of the screen's own.
+    void touch() { touched_ = true; }
     /// To the next control, as Enter leads.
     void goOn() { focusNextChild(); }
 
@@ -76,10 +79,6 @@ protected:
     /// The key of the row cannot be changed: read-only, without tab stop and button, in its own
     /// colour.
     void lockKey(QLineEdit* edit);
-
-    /// The user has changed something: leaving without a save asks first. Happens by itself for all
-    /// stated controls but those of the screen's own.
-    void touch() { touched_ = true; }
 
     void FormShow() override;
     /// Esc and the window's frame.

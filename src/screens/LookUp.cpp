@@ -32,6 +32,7 @@ LookUp::LookUp(DetailScreen& screen, QLineEdit& edit, Rules rules)
 }
 
 void LookUp::browseClicked() {
+    screen_.touch();
     if (!rules_.browse({})) {
         stay();
     }

@@ -1,5 +1,6 @@
 #include "screens/Screen.h"
 
+#include "data/Settings.h"
 #include "platform/seat/SystemMenu.h"
 #include "screens/ScreenServices.h"
 #include "screens/SysStatusBar.h"
@@ -80,6 +81,20 @@ void Screen::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
         velcro::ui::guarded([this] { FormShow(); });
+    }
+}
+
+void Screen::hideKeyCaps() {
+    for (auto* button : findChildren<velcro::ui::KeyButton*>()) {
+        if (!button->keyCap().isEmpty()) {
+            button->setKeyCap({});
+        }
+    }
+}
+
+void Screen::hideKeyCapsBySeat() {
+    if (sfvel_GetParam(QStringLiteral("TIL"), 62) == QLatin1String("Y")) {
+        hideKeyCaps();
     }
 }
 

@@ -39,6 +39,11 @@ protected:
     /// The technical reference, for windows whose title bar cannot hold it.
     QToolButton* newTechHelpButton();
 
+    /// Takes the pictures of the keys off all buttons; the keys themselves go on working. The other
+    /// one does so on seats that are worked by touch alone (till parameter 62).
+    void hideKeyCaps();
+    void hideKeyCapsBySeat();
+
     /// For what no button stands for.
     template <typename Receiver, typename Handler>
     void bindKey(const QKeySequence& key, Receiver* receiver, Handler handler) {

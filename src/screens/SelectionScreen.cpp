@@ -2,8 +2,6 @@
 
 #include "data/DataUVEL.h"
 
-using velcro::ui::KeyButton;
-
 namespace {
 
 void take(const Field& from, QString* into) {
@@ -41,14 +39,6 @@ void SelectionScreen::FormShow() {
         std::visit([](auto* field) { *field = {}; }, picked.field);
     }
     ListScreen::FormShow();
-}
-
-void SelectionScreen::hideKeyCaps() {
-    for (auto* button : findChildren<KeyButton*>()) {
-        if (!button->keyCap().isEmpty()) {
-            button->setKeyCap({});
-        }
-    }
 }
 
 void SelectionScreen::pickFrom(const Statement& row) {

@@ -34,8 +34,6 @@ protected:
 
     void rowChosen() override;
     void FormShow() override;
-    /// Takes the pictures of the keys off all buttons; the keys themselves go on working.
-    void hideKeyCaps();
 
 private:
     std::vector<PickedField> picked_;

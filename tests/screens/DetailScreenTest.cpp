@@ -1,7 +1,7 @@
 // What every detail screen does, shown on one that has a control of each kind on two pages.
 #include "screens/DetailScreen.h"
 
-#include "data/DataUVEL.h"
+#include "data/SysDataModel.h"
 #include "support/Desk.h"
 #include "support/DetailColumns.h"
 #include "support/ScreenChecks.h"
@@ -39,7 +39,7 @@ DetailFacts trialFacts() {
                    text("edCode", u"Code"_s,
                         {.limit = 10, .upperCase = true, .key = true, .browse = true}),
                    text("edName", u"Name"_s, {.beside = true, .limit = 50}),
-                   text("edStock", u"Stock"_s, {.limit = 20}),
+                   text("edStock", u"Stock"_s, {.limit = 20, .browse = true}),
                    codes("cmbTech", u"Technician"_s, u"CROTechMst"_s, u"*BLANK*"_s),
                    page("pgMore", u"More"_s), note(u"What stands here explains the page."_s),
                    date("edSince", u"Since"_s, {.today = true}), amount("edPrice", u"Price"_s),
@@ -53,6 +53,7 @@ DetailFacts trialFacts() {
         .updates = "Name Sort Stock Tech Since Price InUse Notes",
         .values = {{"Origin", always(u"typed"_s)}},
         .stamped = true,
+        .keyCapsBySeat = true,
         .firstInUpdate = "edName",
     };
 }
@@ -182,6 +183,12 @@ TEST_F(DetailScreenTest, aRefusedControlComesForwardAndIsMarkedUntilItIsEdited) 
 }
 
 TEST_F(DetailScreenTest, escapeClosesWhatIsOnTopAndAsksOnlyWhenSomethingWasTyped) {
+    show(1, [&] {
+        trial->picked = "S1";
+        user.click("btnStock");
+        user.expectForm(question, [&] { user.press(Qt::Key_Y); });
+        user.press(Qt::Key_Escape);
+    });
     show(2, [&] {
         auto& combo = user.find<QComboBox>("cmbSort");
         combo.showPopup();
@@ -221,6 +228,19 @@ TEST_F(DetailScreenTest, enterPressesTheButtonItStandsOnButDeletesNothing) {
     Desk::onSuite("UPDATE Trial SET [Name] = 'still checked' ");
     show(3, [&] { user.press(Qt::Key_F10); });
     EXPECT_EQ(rows(), "0");
+}
+
+TEST_F(DetailScreenTest, aSeatWorkedByTouchAloneShowsNoKeysOnButtons) {
+    for (const char* value : {"Y", "N"}) {
+        gParameters.clear();
+        gParameters.push_back(std::make_unique<TParameter>(TParameter{"TIL", 62, {}, value}));
+        show(1, [&] {
+            EXPECT_EQ(user.find<velcro::ui::KeyButton>("btnSave").keyCap(),
+                      *value == 'Y' ? "" : "F10");
+            user.press(Qt::Key_Escape);
+        });
+    }
+    gParameters.clear();
 }
 
 TEST_F(DetailScreenTest, aLookUpIsAnsweredBeforeTheFocusLeaves) {
