@@ -21,6 +21,7 @@ public:
              const OnResult& onResult) override {
         maybeDrop();
         ++server_.statements;
+        server_.texts.emplace_back(batch);
         real_->run(batch, parameters, onResult);
     }
     void cancel() noexcept override { real_->cancel(); }

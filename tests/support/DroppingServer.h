@@ -4,6 +4,8 @@
 #include "data/Connection.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace velcro::test {
 
@@ -24,6 +26,7 @@ public:
 
     int countdown = 0;  // 0: nothing drops
     int statements = 0; // that reached the server
+    std::vector<std::string> texts;
 
 private:
     Connection::Factory real_;

@@ -12,7 +12,7 @@
 
 namespace velcro::sql::tsql {
 
-class FunctionHost;
+class FaultSlot;
 
 /// A DEFAULT as it is written in a statement.
 struct DefaultSpec
@@ -62,9 +62,9 @@ class Ddl
 {
 public:
     /// Conversions of stored values raise their faults through the host.
-    Ddl(Catalogue& catalogue, FunctionHost& host)
+    Ddl(Catalogue& catalogue, FaultSlot& faults)
         : catalogue_(catalogue)
-        , host_(host) {}
+        , faults_(faults) {}
 
     /// 2714, 2705, 8110, 8111.
     void createTable(std::string_view name, const std::vector<ColumnSpec>& columns,
@@ -135,7 +135,7 @@ private:
     void rebuild(const TableDef& from, const TableDef& to);
 
     Catalogue& catalogue_;
-    FunctionHost& host_;
+    FaultSlot& faults_;
 };
 
 } // namespace velcro::sql::tsql

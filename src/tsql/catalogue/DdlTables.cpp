@@ -1,7 +1,7 @@
 // CREATE, DROP and TRUNCATE TABLE, and what all schema changes share.
 #include "tsql/catalogue/Ddl.h"
+#include "tsql/catalogue/FaultSlot.h"
 #include "tsql/catalogue/SqliteQuery.h"
-#include "tsql/functions/Functions.h"
 #include "tsql/values/Collation.h"
 
 #include <algorithm>
@@ -81,7 +81,7 @@ void Ddl::run(const std::string& sqlite, std::initializer_list<std::string_view>
         }
         query.run();
     } catch (const Fault&) {
-        if (const auto cause = host_.takeFault()) {
+        if (const auto cause = faults_.takeFault()) {
             throw *cause;
         }
         throw;

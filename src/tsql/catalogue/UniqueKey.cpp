@@ -138,7 +138,7 @@ void runAgain(sqlite3_stmt* failed, const std::string& trigger) {
 } // namespace
 
 Fault uniqueFault(std::string_view sqliteText, const Catalogue& catalogue, sqlite3_stmt* failed,
-                  FunctionHost* host) {
+                  FaultSlot* slot) {
     const std::string kept(sqliteText); // SQLite's own buffer, which the next statement overwrites
     const BrokenKey broken = brokenKey(kept, catalogue);
     const auto said = words(broken);
@@ -146,7 +146,7 @@ Fault uniqueFault(std::string_view sqliteText, const Catalogue& catalogue, sqlit
                        (broken.index != nullptr || broken.table->identityColumn() != nullptr);
     if (failed != nullptr && known) {
         runAgain(failed, triggerText(broken, said));
-        if (auto fault = host->takeFault(); fault && fault->number() == std::stoi(said.front())) {
+        if (auto fault = slot->takeFault(); fault && fault->number() == std::stoi(said.front())) {
             return *fault;
         }
     }

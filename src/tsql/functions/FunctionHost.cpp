@@ -119,17 +119,6 @@ FunctionHost::FunctionHost(const Catalogue& catalogue, SessionFacts facts)
     }
 }
 
-std::optional<Fault> FunctionHost::takeFault() {
-    return std::exchange(fault_, std::nullopt);
-}
-
-void FunctionHost::setFault(Fault fault) {
-    // The first one is the cause.
-    if (!fault_) {
-        fault_.emplace(std::move(fault));
-    }
-}
-
 void registerFunctions(sqlite3* database, FunctionHost& host) {
     registerCollation(database);
     registerAll(database, conversionFunctions(), host);

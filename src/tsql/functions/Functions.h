@@ -1,6 +1,7 @@
 // T-SQL's scalar functions: which there are, what they take and give, and their SQLite names.
 #pragma once
 
+#include "tsql/catalogue/FaultSlot.h"
 #include "tsql/catalogue/SqliteHandle.h"
 #include "tsql/values/Errors.h"
 #include "tsql/values/Values.h"
@@ -95,7 +96,7 @@ struct SessionFacts
 
 /// The functions on one connection and the way their faults come back: SQLite passes only text, so
 /// the numbered fault waits here.
-class FunctionHost
+class FunctionHost : public FaultSlot
 {
 public:
     FunctionHost(const Catalogue& catalogue, SessionFacts facts);
@@ -103,10 +104,6 @@ public:
     SessionFacts& facts() { return facts_; }
     const SessionFacts& facts() const { return facts_; }
     const Catalogue& catalogue() const { return catalogue_; }
-
-    /// The fault that made the last sqlite3_step() fail, if a function raised it; forgets it.
-    std::optional<Fault> takeFault();
-    void setFault(Fault fault);
 
     /// The statement of that text, prepared before; null when there is none or it is being run.
     StatementHandle takePart(std::string_view text);
@@ -116,7 +113,6 @@ public:
 private:
     const Catalogue& catalogue_;
     SessionFacts facts_;
-    std::optional<Fault> fault_;
     std::unordered_map<std::string, StatementHandle> parts_;
 };
 
