@@ -72,6 +72,12 @@ public:
         const bool isTick = cell.features.testFlag(QStyleOptionViewItem::HasCheckIndicator);
         cell.features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        cell.text = text;
+        cell.rect.adjust(textMargin, 0, -textMargin, 0);
+        cell.state &= ~QStyle::State_HasFocus;
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        // Last: on the selected row the text brings its background with it.
+        cell.rect = option.rect;
         if (isTick) {
             paintTick(*painter, cell, cell.checkState == Qt::Checked);
         }
@@ -79,10 +85,6 @@ public:
             index.flags().testFlag(Qt::ItemIsEditable)) {
             paintFrame(*painter, cell);
         }
-        cell.text = text;
-        cell.rect.adjust(textMargin, 0, -textMargin, 0);
-        cell.state &= ~QStyle::State_HasFocus;
-        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     }
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -269,7 +271,9 @@ void RowGrid::keyPressEvent(QKeyEvent* event) {
         switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            emit rowChosen();
+            if (state() != EditingState) { // the Enter that ends an edit comes by here too
+                emit rowChosen();
+            }
             break;
         case Qt::Key_Home:
             first();
@@ -345,7 +349,10 @@ std::vector<RowGrid::Fit> RowGrid::wantedWidths() const {
         const int heading = header->sectionSizeHint(i);
         const int wanted = std::clamp(std::max(sizeHintForColumn(i), heading), narrowest, widest);
         const bool text = model_.cellType(i) == CellType::Text;
-        fits.push_back({i, wanted, text ? std::min(wanted, std::max(narrowed, heading)) : wanted});
+        fits.push_back({.index = i,
+                        .wanted = wanted,
+                        .narrow = text ? std::min(wanted, std::max(narrowed, heading)) : wanted,
+                        .typed = text && model_.columns()[i].editable});
     }
     return fits;
 }
@@ -369,10 +376,10 @@ void RowGrid::shareRoom(std::vector<Fit>& fits, int room) {
         fit->width += more;
         room -= more;
     }
-    // What is left goes to the widest column, which is the one with the names.
+    // What is left goes to what is typed, or else to the widest column, the one with the names.
     if (end != fits.begin()) {
         std::max_element(fits.begin(), end, [](const Fit& a, const Fit& b) {
-            return a.width < b.width;
+            return std::pair(a.typed, a.width) < std::pair(b.typed, b.width);
         })->width += room;
     }
 }

@@ -59,6 +59,7 @@ private:
         int index;
         int wanted; // shows all of it
         int narrow; // shows enough of it
+        bool typed; // holds what is typed
         int width = 0;
     };
     std::vector<Fit> wantedWidths() const;

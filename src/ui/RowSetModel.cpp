@@ -246,6 +246,11 @@ QVariant RowSetModel::data(const QModelIndex& index, int role) const {
             return spokenTick(resultRow(index.row()), index.column());
         }
         return {};
+    case Qt::AccessibleDescriptionRole:
+        if (!tick && columns_[index.column()].editable) {
+            return QStringLiteral("Can be typed over");
+        }
+        return {};
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (isNumeric(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
     default:

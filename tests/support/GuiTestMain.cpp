@@ -1,12 +1,8 @@
-// The entry of the test programs that need a QApplication. A filter that selects no test is a
-// failure: a renamed suite must not pass by running nothing.
+// The entry of the test programs that need a QApplication.
+#include "support/RunTests.h"
 #include "ui/Theme.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
-
-#include <cstdio>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
@@ -15,10 +11,5 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     velcro::ui::applyTheme(application);
-    const int failed = RUN_ALL_TESTS();
-    if (testing::UnitTest::GetInstance()->test_to_run_count() == 0) {
-        std::fputs("no test was selected\n", stderr);
-        return 1;
-    }
-    return failed;
+    return runTests();
 }

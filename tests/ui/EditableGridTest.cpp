@@ -1,19 +1,13 @@
-// Rows that are edited and filtered in memory, what a visitor is told of them, and checklists.
-#include "support/ScreenChecks.h"
-#include "ui/ChecklistGrid.h"
+// Rows that are edited and filtered in memory, and what a visitor is told of them.
 #include "ui/GridPrinter.h"
 #include "ui/GridVisitor.h"
-#include "ui/Theme.h"
+#include "ui/RowGrid.h"
 
-#include <QAccessible>
-#include <QApplication>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace velcro;
@@ -194,132 +188,4 @@ TEST_F(EditableGridTest, PrintedPagesHoldEveryRowOnce) {
         EXPECT_TRUE(text.contains(QString("Page : %1").arg(pages)));
         EXPECT_EQ(pages > 1, withRows);
     }
-}
-
-namespace {
-
-class ChecklistGridTest : public testing::Test
-{
-protected:
-    ChecklistGridTest()
-        : list({{"Code", "Intake Code"}, {"Description"}, {"Notes"}, 8}) {
-        sql::RowSetBuilder builder({{"Code", sql::ColumnType::Text},
-                                    {"Description", sql::ColumnType::Text},
-                                    {"Notes", sql::ColumnType::Text}});
-        const char* const rows[][3] = {
-            {"BAG", "Carry bag", ""}, {"BATT", "Battery", "charged"}, {"CORD", "Power cord", ""}};
-        for (const auto& row : rows) {
-            for (const char* cell : row) {
-                builder.addBytes(cell);
-            }
-            builder.endRow();
-        }
-        list.setAccessibleName("Intakes");
-        list.setRows(builder.take());
-        list.resize(700, 300);
-        list.show();
-        list.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&list));
-    }
-    QString ticked() {
-        QStringList entries;
-        for (const auto& [code, note] : list.ticked()) {
-            entries << code + "=" + note;
-        }
-        return entries.join(' ');
-    }
-    QRect cell(int row, int column) { return list.visualRect(list.model()->index(row, column)); }
-    void tap(const QPoint& place) { QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place); }
-    void press(Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        QApplication::processEvents();
-    }
-
-    ChecklistGrid list;
-};
-
-} // namespace
-
-TEST_F(ChecklistGridTest, KeysTickAndTypeTheNotes) {
-    list.setFocus();
-    press(Qt::Key_Space);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Space);
-    EXPECT_EQ(ticked(), "BAG= CORD=");
-    press(Qt::Key_Space);
-    EXPECT_EQ(ticked(), "BAG=");
-    for (int i = 0; i < 3; ++i) {
-        press(Qt::Key_Right);
-    }
-    press(Qt::Key_Space);
-    QTest::keyClicks(QApplication::focusWidget(), "w");
-    QTest::keyClicks(QApplication::focusWidget(), "orn plug");
-    press(Qt::Key_Return);
-    EXPECT_EQ(ticked(), "BAG= CORD=worn plu") << "as long as the column holds";
-    press(Qt::Key_Up);
-    QTest::keyClicks(QApplication::focusWidget(), "x");
-    press(Qt::Key_Escape);
-    press(Qt::Key_Space);
-    EXPECT_EQ(ticked(), "BAG= BATT=charged CORD=worn plu") << "Esc leaves the note";
-    QTest::keyClicks(QApplication::focusWidget(), "low");
-    EXPECT_EQ(ticked(), "BAG= BATT=low CORD=worn plu") << "what is being typed counts";
-    press(Qt::Key_Left);
-    QTest::keyClicks(QApplication::focusWidget(), "z");
-    EXPECT_EQ(list.findChild<QLineEdit*>("edCell"), nullptr) << "only the note is typed into";
-}
-
-TEST_F(ChecklistGridTest, ATapAnywhereInTheTicksCellTicks) {
-    tap(cell(0, 0).topLeft() + QPoint(2, 2));
-    tap(cell(2, 0).bottomRight() - QPoint(2, 2));
-    EXPECT_EQ(ticked(), "BAG= CORD=");
-    tap(cell(0, 0).center());
-    tap(cell(1, 1).center());
-    EXPECT_EQ(ticked(), "CORD=") << "the other cells do not tick";
-    tap(cell(1, 3).center());
-    QTest::qWait(QApplication::doubleClickInterval() + 10);
-    EXPECT_NE(list.findChild<QLineEdit*>("edCell"), nullptr) << "a second tap opens the note";
-}
-
-TEST_F(ChecklistGridTest, StoredCodesTickTheirFirstRowInAnyCase) {
-    EXPECT_TRUE(list.tick("cord"));
-    EXPECT_FALSE(list.tick("GONE"));
-    EXPECT_EQ(ticked(), "CORD=");
-}
-
-TEST_F(ChecklistGridTest, RowsAreAFingerHighAndATickIsSeenWithoutItsColour) {
-    for (int column : {0, 1, 3}) {
-        EXPECT_GE(cell(0, column).height(), touchHeight);
-        EXPECT_GE(cell(0, column).width(), touchHeight);
-    }
-    const auto ink = [this] {
-        const QImage seen = list.viewport()
-                                ->grab(cell(1, 0).adjusted(2, 2, -2, -2))
-                                .toImage()
-                                .convertToFormat(QImage::Format_Grayscale8);
-        int dark = 0;
-        for (int y = 0; y < seen.height(); ++y) {
-            for (int x = 0; x < seen.width(); ++x) {
-                dark += qGray(seen.pixel(x, y)) < 100 ? 1 : 0;
-            }
-        }
-        return dark;
-    };
-    const int before = ink();
-    list.tick("BATT");
-    EXPECT_GT(ink(), before + 40);
-    keepPicture(list, "checklist");
-}
-
-TEST_F(ChecklistGridTest, AScreenReaderHearsWhatIsTickedAndWhatCanBeTyped) {
-    list.tick("BATT");
-    auto* table = QAccessible::queryAccessibleInterface(&list)->tableInterface();
-    ASSERT_NE(table, nullptr);
-    EXPECT_EQ(table->cellAt(1, 0)->text(QAccessible::Name), "BATT ticked");
-    EXPECT_EQ(table->cellAt(0, 0)->text(QAccessible::Name), "BAG not ticked");
-    EXPECT_EQ(table->cellAt(1, 2)->text(QAccessible::Name), "Battery");
-    EXPECT_TRUE(table->cellAt(1, 0)->state().checked);
-    EXPECT_TRUE(table->cellAt(1, 3)->state().editable);
-    EXPECT_FALSE(table->cellAt(1, 1)->state().editable);
-    EXPECT_EQ(namelessControls(list), QStringList());
 }
