@@ -7,6 +7,7 @@
 #include "data/DataModules.h"
 #include "data/SysDataModel.h"
 #include "repairs/CRO100.h"
+#include "reports/ReportFunctions.h"
 #include "screens/ImageLists.h"
 #include "screens/ScreenServices.h"
 #include "screens/SysFuncGlobal.h"
@@ -38,6 +39,7 @@ Program::Program(const QStringList& arguments)
     watchDatabaseWaits();
     createDataModules();
     fillImageLists(*sData);
+    registerReportFunctions();
     gScreenServices.techHelp = sfvel_TechHelp;
     gMenuScreens.repairOrders = [](QWidget* parent) {
         return std::make_unique<TfrmCRO100>(parent);

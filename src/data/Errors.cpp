@@ -2,6 +2,8 @@
 
 #include <QLocale>
 
+#include <cmath>
+
 int StrToInt(const QString& text) {
     bool ok = false;
     const int number = text.trimmed().toInt(&ok);
@@ -11,10 +13,13 @@ int StrToInt(const QString& text) {
     return number;
 }
 
+// A separator between thousands would be the decimal sign of another country.
 double StrToFloat(const QString& text) {
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator);
     bool ok = false;
-    const double number = QLocale::c().toDouble(text.trimmed(), &ok);
-    if (!ok) {
+    const double number = plain.toDouble(text.trimmed(), &ok);
+    if (!ok || !std::isfinite(number)) {
         throw ConversionError(QStringLiteral("'%1' is not a valid floating point value").arg(text));
     }
     return number;
