@@ -9,6 +9,7 @@
 void expectLogIn(Tour& tour);
 
 void addMenus(Tour& tour);
+void addWorkshop(Tour& tour);
 void addRegister(Tour& tour);
 void addBooking(Tour& tour);
 void addDialogs(Tour& tour);

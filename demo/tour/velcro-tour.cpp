@@ -49,6 +49,7 @@ int walk(int argc, char** argv) {
     Program program({});
     expectLogIn(tour);
     addMenus(tour);
+    addWorkshop(tour);
     addRegister(tour);
     addBooking(tour);
     addDialogs(tour);

@@ -15,6 +15,9 @@
 #include "security/SysLogInForms.h"
 #include "security/VEL710.h"
 #include "ui/Icons.h"
+#include "workshop/CRO001.h"
+#include "workshop/CRO002.h"
+#include "workshop/CRO003.h"
 
 #include <QApplication>
 
@@ -29,6 +32,11 @@ StartUpSteps stepsFor(TfrmMAIN000& mainForm) {
     return steps;
 }
 
+template <typename Screen>
+std::unique_ptr<QDialog> make(QWidget* parent) {
+    return std::make_unique<Screen>(parent);
+}
+
 } // namespace
 
 Program::Program(const QStringList& arguments)
@@ -41,8 +49,11 @@ Program::Program(const QStringList& arguments)
     fillImageLists(*sData);
     registerReportFunctions();
     gScreenServices.techHelp = sfvel_TechHelp;
-    gMenuScreens.repairOrders = [](QWidget* parent) {
-        return std::make_unique<TfrmCRO100>(parent);
+    gMenuScreens = {
+        .repairOrders = make<TfrmCRO100>,
+        .systemCodes = make<TfrmCRO001>,
+        .technicians = make<TfrmCRO002>,
+        .processCodes = make<TfrmCRO003>,
     };
 }
 

@@ -41,7 +41,17 @@ void setFieldValue(QWidget& control, const QString& value) {
     } else if (auto* amount = qobject_cast<AmountEdit*>(&control)) {
         amount->setNumber(value);
     } else if (auto* edit = qobject_cast<QLineEdit*>(&control)) {
+        // What the row holds is not cut, also where less can be typed.
+        edit->setMaxLength(std::max(edit->maxLength(), int(value.size())));
         edit->setText(value);
+    }
+}
+
+// A code that its table has no more stays with the row: it stands among the entries, bare.
+void keepCode(QComboBox& combo, const QString& code) {
+    if (!code.isEmpty() && combo.currentIndex() < 0) {
+        combo.addItem(code);
+        combo.setCurrentIndex(combo.count() - 1);
     }
 }
 
@@ -107,8 +117,11 @@ QWidget* DetailForm::build(FormBuilder& form, const DetailField& stated) {
         return nullptr;
     case Kind::Date:
         return form.date(name, stated.label);
-    case Kind::Amount:
-        return form.amount(name, stated.label, options.decimals, options.readOnly);
+    case Kind::Amount: {
+        auto* amount = form.amount(name, stated.label, options.decimals, options.readOnly);
+        amount->setMaxLength(options.limit > 0 ? options.limit : amount->maxLength());
+        return amount;
+    }
     case Kind::Combo:
         return form.combo(name, stated.label, stated.entries, options.width);
     case Kind::Codes:
@@ -170,7 +183,11 @@ void DetailForm::setDefaults() {
 void DetailForm::load(const Statement& row) {
     for (const auto& [stated, control] : fields_) {
         if (stated->options.loads && row.HasField(stated->column())) {
-            setFieldValue(*control, row.FieldByName(stated->column()).AsString());
+            const auto value = row.FieldByName(stated->column()).AsString();
+            setFieldValue(*control, value);
+            if (stated->kind == Kind::Codes) {
+                keepCode(*qobject_cast<QComboBox*>(control), value);
+            }
         }
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QStyle>
+#include <QStyleOptionButton>
 
 #include <algorithm>
 
@@ -69,9 +70,16 @@ void KeyButton::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void KeyButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    option->text = option->text.simplified();
+}
+
 QSize KeyButton::sizeHint() const {
     const auto hint = QPushButton::sizeHint();
-    return {hint.width(), std::max(hint.height(), touchHeight)};
+    const int unused = fontMetrics().horizontalAdvance(text()) -
+                       fontMetrics().horizontalAdvance(text().simplified());
+    return {hint.width() - unused, std::max(hint.height(), touchHeight)};
 }
 
 } // namespace velcro::ui

@@ -32,6 +32,8 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    /// The blanks that a caption is spaced with count as one.
+    void initStyleOption(QStyleOptionButton* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
