@@ -5,7 +5,28 @@
 #include "application/CMN012.h"
 #include "data/Session.h"
 
+#include <QTimer>
+
 #include <utility>
+
+namespace {
+
+/// The seat is new: OK makes its till database first, and the screen says so meanwhile.
+void pressOKAndWatchTheSweep(Tour& tour) {
+    bool swept = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!swept && tour.message().startsWith(QStringLiteral("Local DB Upgrade in Progress."))) {
+            swept = true;
+            tour.picture(QStringLiteral("till-upgrade"));
+        }
+    });
+    watch.start(5);
+    tour.press(Qt::Key_Return);
+    tour.check(swept, QStringLiteral("the screen says that the till database is upgraded"));
+}
+
+} // namespace
 
 void expectLogIn(Tour& tour) {
     tour.expect({}, QStringLiteral("log-in"), [&tour] {
@@ -13,7 +34,7 @@ void expectLogIn(Tour& tour) {
         tour.type(QStringLiteral("COUNTER1"));
         tour.press(Qt::Key_Return);
         tour.type(QStringLiteral("COUNTER"));
-        tour.press(Qt::Key_Return);
+        pressOKAndWatchTheSweep(tour);
     });
 }
 
