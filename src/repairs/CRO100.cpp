@@ -4,6 +4,7 @@
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "repairs/CRO100A.h"
+#include "repairs/CRO101.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,17 +78,16 @@ void TfrmCRO100::openDetail(int xFunction, int xRecID) {
 }
 
 ButtonFacts TfrmCRO100::linesButton() {
-    const auto show = [this](int xRecID) {
-        gShowRepairOrderItems(
-            this, {xRecID, currentText("CRONo"), currentText("Account"), currentText("Name")});
-    };
-    ButtonFacts facts = {.name = u"btnLines"_s,
-                         .caption = u"Order Items"_s,
-                         .key = Qt::Key_Return,
-                         .needsRecord = true,
-                         .role = ButtonFacts::Role::Main};
-    if (gShowRepairOrderItems) {
-        facts.handler = [this, show] { showForCurrent(show); };
-    }
-    return facts;
+    return {.name = u"btnLines"_s,
+            .caption = u"Order Items"_s,
+            .key = Qt::Key_Return,
+            .handler = [this] { showForCurrent([this](int xRecID) { showItems(xRecID); }); },
+            .needsRecord = true,
+            .role = ButtonFacts::Role::Main};
+}
+
+void TfrmCRO100::showItems(int xRecID) {
+    TfrmCRO101 items({xRecID, currentText("CRONo"), currentText("Account"), currentText("Name")},
+                     this);
+    velcro::ui::runModal(items);
 }

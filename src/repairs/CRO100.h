@@ -4,19 +4,6 @@
 
 #include "screens/ListScreen.h"
 
-/// What the register hands to the item list of an order.
-struct RepairOrderKey
-{
-    int xRecID = 0;
-    QString xCRONo;
-    QString xAccount;
-    QString xName;
-};
-
-/// Shows the item list of an order modally; empty until that screen exists, and then "Order Items"
-/// is greyed.
-inline std::function<void(QWidget* parent, const RepairOrderKey& order)> gShowRepairOrderItems;
-
 class TfrmCRO100 : public MaintenanceList
 {
     Q_OBJECT
@@ -30,4 +17,5 @@ protected:
 
 private:
     ButtonFacts linesButton();
+    void showItems(int xRecID);
 };

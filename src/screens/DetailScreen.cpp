@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 #include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
@@ -258,8 +259,9 @@ void DetailScreen::btnSaveClick() {
     collect();
     // A failed save has told of itself; the screen closes all the same.
     gData->vel_ExecSQL(1);
+    // The row is written: what fails from here on must not leave it to be saved once more.
+    const auto close = qScopeGuard([this] { accept(); });
     afterSave();
-    accept();
 }
 
 void DetailScreen::collect() {

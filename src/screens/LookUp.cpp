@@ -67,11 +67,12 @@ bool LookUp::eventFilter(QObject* watched, QEvent* event) {
 
 bool LookUp::run(bool leaving) {
     screen_.clearRefusal();
-    if (edit_.text().trimmed() == "?"_L1) {
+    const bool browses = edit_.text().trimmed() == "?"_L1 && (!leaving || rules_.browsesOnLeaving);
+    if (browses) {
         rules_.browse({});
     }
     const bool blank = edit_.text().trimmed().isEmpty();
-    if (blank && !rules_.findsBlank) {
+    if (blank && !rules_.findsBlank && !(browses && rules_.findsAfterBrowse)) {
         return leaving || stay();
     }
     Answer answer = rules_.find();
@@ -85,10 +86,15 @@ bool LookUp::run(bool leaving) {
 }
 
 bool LookUp::stayUnknown(const QString& refusal) {
-    return refusal.isEmpty() ? stay() : screen_.refuse(&edit_, refusal);
+    if (!refusal.isEmpty()) {
+        screen_.refuse(&edit_, refusal);
+    }
+    return stay();
 }
 
+// The next scan takes the place of the text that was refused.
 bool LookUp::stay() {
     edit_.setFocus();
+    edit_.selectAll();
     return false;
 }

@@ -31,10 +31,12 @@ public:
         std::function<bool(const QString& xStartSearch)> browse;
         bool onEnter = true;
         bool onLeaving = false;
-        bool findsBlank = false;    // also an empty edit is asked for
-        bool browsesUnknown = true; // else the user is left to correct the text
-        QString unknown = {};       // refusal of a text that nothing was found or picked for
-        QString blank = {};         // refusal of an empty edit that was asked for in vain
+        bool browsesOnLeaving = true;  // "?" browses then too, else it is asked for like any text
+        bool findsAfterBrowse = false; // what "?" brought is asked for also when that is nothing
+        bool findsBlank = false;       // also an empty edit is asked for
+        bool browsesUnknown = true;    // else the user is left to correct the text
+        QString unknown = {};          // refusal of a text that nothing was found or picked for
+        QString blank = {};            // refusal of an empty edit that was asked for in vain
     };
 
     /// Its button is the one named after the edit ("btnAccount" of "edAccount"), if there is one.

@@ -6,6 +6,7 @@
 #include "platform/seat/Programs.h"
 #include "ui/Events.h"
 #include "ui/KeyCap.h"
+#include "ui/RowGrid.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -92,4 +93,8 @@ void sfg_ImageKeybd32(QAbstractButton& xButton, const QString& xKey) {
     const bool has = cap != nullptr && sData != nullptr;
     const int index = has ? int(cap - velcro::ui::keyCaps().data()) : -1;
     setKeyCap(xButton, has ? sData->MainMenuKBImages(index) : QIcon(), xKey, 32);
+}
+
+void sfg_ClearGrid(velcro::ui::RowGrid& xGrid) {
+    xGrid.setRows({});
 }

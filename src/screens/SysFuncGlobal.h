@@ -7,6 +7,10 @@
 class QAbstractButton;
 class QWidget;
 
+namespace velcro::ui {
+class RowGrid;
+}
+
 /// A modal message with Close. With xTimer above 0 it closes itself after so many milliseconds.
 void sfg_InfoDlg(const QString& sMessage, int xTimer);
 void sfg_MessageDlg(const QString& sMessage, int xTimer);
@@ -32,6 +36,9 @@ void sfg_ShowOnScreenKeyboard();
 /// key leaves the button without a picture.
 void sfg_ImageKeybd16(QAbstractButton& xButton, const QString& xKey);
 void sfg_ImageKeybd32(QAbstractButton& xButton, const QString& xKey);
+
+/// Empties a grid whose rows are kept in memory.
+void sfg_ClearGrid(velcro::ui::RowGrid& xGrid);
 
 /// Fills the hooks that lower layers show their failures through.
 void connectPrompts();

@@ -1,5 +1,10 @@
 #include "ui/ChecklistGrid.h"
 
+#include "ui/Handler.h"
+
+#include <QHash>
+#include <QScopeGuard>
+
 namespace velcro::ui {
 
 ChecklistGrid::ChecklistGrid(const Facts& facts, QWidget* parent)
@@ -15,6 +20,43 @@ ChecklistGrid::ChecklistGrid(const Facts& facts, QWidget* parent)
                 facts.code,
                 facts.description,
                 note});
+    connectHandler(&rowModel(), &RowSetModel::modelReset, this, &ChecklistGrid::countTicks);
+    connectHandler(&rowModel(), &RowSetModel::dataChanged, this, [this] {
+        emit edited();
+        countTicks();
+    });
+}
+
+void ChecklistGrid::countTicks() {
+    if (ticking_) {
+        return;
+    }
+    const auto& model = rowModel();
+    int count = 0;
+    for (std::size_t row = 0; row < model.rows().rowCount(); ++row) {
+        count += model.isTicked(row, Tick) ? 1 : 0;
+    }
+    if (count != std::exchange(count_, count)) {
+        emit ticksChanged(count);
+    }
+}
+
+void ChecklistGrid::tick(const QStringList& codes) {
+    auto& model = rowModel();
+    QHash<QString, std::size_t> rows;
+    for (std::size_t row = model.rows().rowCount(); row-- > 0;) {
+        rows.insert(model.stored(row, Code).toCaseFolded(), row); // the first row stays
+    }
+    ticking_ = true; // counted once
+    const auto counted = qScopeGuard([this] {
+        ticking_ = false;
+        countTicks();
+    });
+    for (const auto& code : codes) {
+        if (const auto row = rows.constFind(code.toCaseFolded()); row != rows.constEnd()) {
+            model.setTicked(*row, Tick, true);
+        }
+    }
 }
 
 bool ChecklistGrid::tick(const QString& code) {

@@ -28,11 +28,25 @@ public:
 
     /// Ticks the first row with the code, in any case; false when there is none.
     bool tick(const QString& code);
+    /// Ticks the first row of each code, in any case; those that the list does not have are passed
+    /// over.
+    void tick(const QStringList& codes);
     /// The rows that are ticked, in the order of the list, with what is being typed into a note.
     std::vector<Entry> ticked();
 
+signals:
+    /// How many rows are ticked now.
+    void ticksChanged(int count);
+    /// A tick or a note is another than before.
+    void edited();
+
 private:
     enum Column { Tick, Code, Description, Note };
+
+    void countTicks();
+
+    int count_ = 0;
+    bool ticking_ = false;
 };
 
 } // namespace velcro::ui

@@ -103,8 +103,9 @@ private:
             const auto own = QString::number(round) + field.stated->column();
             const auto given = stated_.typed.value(name, {own, own});
             user_.typeInto(name, round == 1 ? given.first : given.second);
-            if (qobject_cast<velcro::ui::AmountEdit*>(field.control)) {
-                user_.press(Qt::Key_Tab); // rounds
+            if (qobject_cast<velcro::ui::AmountEdit*>(field.control) ||
+                field.stated->options.browse) {
+                user_.press(Qt::Key_Tab); // rounds, and looks up
             }
         }
         return columnText(*field.control, user_.sees(name));
