@@ -24,15 +24,15 @@ namespace {
 std::vector<DetailField> itemFields() {
     using namespace field;
     return {
-        text("edCRONo", u"Order #No"_s, {.width = 12, .readOnly = true}),
-        text("edAccount", u"Account"_s, {.beside = true, .width = 12, .readOnly = true}),
+        text("edCRONo", u"Order #No"_s, {.width = 10, .readOnly = true}),
+        text("edAccount", u"Account"_s, {.beside = true, .width = 10, .readOnly = true}),
         text("edName", u"Name"_s, {.beside = true, .width = 32, .readOnly = true}),
         page("pgItemInfo", u"Item Information"_s),
         text("edSerialNo", u"Serial Number"_s, {.width = 30, .browse = true}),
         text("edStockCode", u"Stock Code"_s, {.width = 30, .readOnly = true}),
         text("edLinkCode", u"Link Code"_s, {.beside = true, .width = 25, .readOnly = true}),
         text("edDescription1", u"Description"_s, {.width = 50, .readOnly = true}),
-        text("edItemNo", u"Item #No"_s, {.width = 12, .readOnly = true, .emptyText = u"*system generated*"_s}),
+        text("edItemNo", u"Item #No"_s, {.width = 20, .readOnly = true, .emptyText = u"*system generated*"_s}),
         text("edModelNo", u"Model Number"_s, {.width = 30, .limit = 100}),
         toggle("tsWarranty", u"Warranty"_s, u"In Warranty"_s, u"Out of Warranty"_s, {.column = "InWarranty"}),
         text("edNotes", u"Notes"_s, {.width = 50, .limit = 100}),

@@ -57,12 +57,19 @@ bool LookUp::eventFilter(QObject* watched, QEvent* event) {
         }
         return enter || !goesOn;
     }
-    if (event->type() == QEvent::FocusOut && rules_.onLeaving &&
-        static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason) {
+    if (event->type() == QEvent::FocusOut && rules_.onLeaving) {
+        const bool byMouse = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
         QMetaObject::invokeMethod(
-            this, [this] { guarded([this] { run(true); }); }, Qt::QueuedConnection);
+            this, [this, byMouse] { guarded([&] { left(byMouse); }); }, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
+}
+
+// A page that was turned over takes the edit out of sight with it.
+void LookUp::left(bool byMouse) {
+    if (byMouse || (screen_.isVisible() && !edit_.isVisible())) {
+        run(true);
+    }
 }
 
 bool LookUp::run(bool leaving) {

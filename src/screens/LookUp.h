@@ -47,6 +47,7 @@ protected:
 
 private:
     void browseClicked();
+    void left(bool byMouse);
     /// Whether the user may go on to the next control.
     bool run(bool leaving);
     bool stayUnknown(const QString& refusal);

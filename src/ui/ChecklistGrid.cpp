@@ -59,17 +59,6 @@ void ChecklistGrid::tick(const QStringList& codes) {
     }
 }
 
-bool ChecklistGrid::tick(const QString& code) {
-    auto& model = rowModel();
-    for (std::size_t row = 0; row < model.rows().rowCount(); ++row) {
-        if (model.stored(row, Code).compare(code, Qt::CaseInsensitive) == 0) {
-            model.setTicked(row, Tick, true);
-            return true;
-        }
-    }
-    return false;
-}
-
 std::vector<ChecklistGrid::Entry> ChecklistGrid::ticked() {
     endEdit();
     std::vector<Entry> entries;

@@ -26,8 +26,6 @@ public:
 
     explicit ChecklistGrid(const Facts& facts, QWidget* parent = nullptr);
 
-    /// Ticks the first row with the code, in any case; false when there is none.
-    bool tick(const QString& code);
     /// Ticks the first row of each code, in any case; those that the list does not have are passed
     /// over.
     void tick(const QStringList& codes);

@@ -221,6 +221,7 @@ void FormBuilder::newGrid(QWidget* owner) {
     grid_->setContentsMargins(margin, margin, margin, margin);
     grid_->setHorizontalSpacing(margin);
     grid_->setVerticalSpacing(spacing);
+    framed_ = true;
     row_ = 0;
     column_ = 0;
     beside_ = false;
@@ -237,6 +238,7 @@ void FormBuilder::place(QWidget* widget, const QString& label) {
         rows_->addWidget(plain);
         newGrid(plain);
         widget->setParent(plain);
+        framed_ = false;
     }
     if (beside_) {
         column_ += 2;
@@ -254,9 +256,12 @@ void FormBuilder::place(QWidget* widget, const QString& label) {
         labels_.push_back({text, grid_, column_});
         grid_->addWidget(widget, row_, column_ + 1, Qt::AlignLeft);
     }
-    // What is left of the row goes behind its last control.
-    for (int i = 0; i < grid_->columnCount(); ++i) {
-        grid_->setColumnStretch(i, i % 2);
+    // What is left of the row goes behind its last control. Groups below each other share it alike,
+    // so that their columns stand in line.
+    for (int i = 1; i < grid_->columnCount(); i += 2) {
+        const bool here = i == column_ + 1;
+        const int wanted = framed_ || !here ? 1 : widget->sizeHint().width();
+        grid_->setColumnStretch(i, std::max(grid_->columnStretch(i), wanted));
     }
 }
 

@@ -116,6 +116,7 @@ private:
     int row_ = 0;
     int column_ = 0;
     bool beside_ = false;
+    bool framed_ = false; // the grid is that of a titled group
 };
 
 } // namespace velcro::ui

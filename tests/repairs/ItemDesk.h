@@ -118,7 +118,7 @@ protected:
         for (int i = 0; i < 3; ++i) {
             user.press(Qt::Key_Right);
         }
-        QTest::keyClicks(&grid, text);
+        user.type(text);
     }
     QString tabs() {
         const auto& pager = user.find<QTabWidget>("MainPager");
