@@ -3,6 +3,7 @@
 #include "data/Errors.h"
 #include "data/Prompts.h"
 #include "data/SearchTerms.h"
+#include "screens/GridLayouts.h"
 #include "screens/GridPrint.h"
 #include "screens/RecordBar.h"
 #include "screens/SearchPanel.h"
@@ -153,8 +154,18 @@ void ListScreen::btnPrintClick() {
     printer.preview(this);
 }
 
+// A layout that cannot be read is no reason to keep the rows from the user.
+void ListScreen::restoreLayout() {
+    try {
+        sfvel_LoadSavedGrid(*grid_, unitName());
+    } catch (const std::runtime_error& error) {
+        displayError(u"The saved grid layout could not be read: "_s + errorText(error));
+    }
+}
+
 void ListScreen::FormShow() {
     orderTabs();
+    restoreLayout();
     BuildGrid();
 }
 

@@ -126,6 +126,7 @@ private:
     void addToPanel(const ButtonFacts& facts);
     void addHeading(const QString& text);
     void hideSearch();
+    void restoreLayout();
     void currentRecordChanged();
     void build(const QString& searchedFor, const QString& xSQL);
     void readList(const QString& searchedFor, QString xSQL);

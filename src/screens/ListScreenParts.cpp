@@ -1,8 +1,9 @@
 // How the parts of a list screen stand: the panel of buttons on the left, the grid with everything
 // else, first to last below it, the search panel that drops in above it.
 #include "screens/ListScreen.h"
+
+#include "screens/GridLayouts.h"
 #include "screens/RecordBar.h"
-#include "screens/ScreenServices.h"
 #include "screens/SearchPanel.h"
 #include "ui/Theme.h"
 
@@ -205,18 +206,16 @@ void ListScreen::makeGrid() {
 
 void ListScreen::makeGridMenu() {
     grid_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    const auto add = [this](const QString& name, const QString& text, bool enabled, auto handler) {
+    const auto add = [this](const QString& name, const QString& text, auto handler) {
         auto* action = new QAction(text, grid_);
         action->setObjectName(name);
-        action->setEnabled(enabled);
         connectHandler(action, &QAction::triggered, this, handler);
         grid_->addAction(action);
     };
-    add(u"acGridCustom"_s, u"Customise Grid"_s, bool(gScreenServices.gridCustom),
-        [this] { gScreenServices.gridCustom(*grid_, unitName()); });
-    add(u"acGridPrint"_s, u"Print Grid"_s, true, [this] { btnPrintClick(); });
-    add(u"acGridExcel"_s, u"Export Grid to Excell"_s, bool(gScreenServices.exportExcell),
-        [this] { gScreenServices.exportExcell(*grid_, unitName()); });
+    add(u"acGridCustom"_s, u"Customise Grid"_s, [this] { sfvel_GridCustom(*grid_, unitName()); });
+    add(u"acGridPrint"_s, u"Print Grid"_s, [this] { btnPrintClick(); });
+    add(u"acGridExcel"_s, u"Export Grid to Excell"_s,
+        [this] { sfvel_ExportExcell(*grid_, unitName()); });
 }
 
 void ListScreen::makeSearchPanel() {

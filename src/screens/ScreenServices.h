@@ -6,16 +6,8 @@
 
 #include <functional>
 
-namespace velcro::ui {
-class RowGrid;
-}
-
 struct ScreenServices
 {
-    /// Lets the user choose and order the columns of a grid, and keeps that under the grid's name.
-    std::function<void(velcro::ui::RowGrid& xGrid, const QString& xGridName)> gridCustom;
-    /// Writes the grid to a spreadsheet and opens it.
-    std::function<void(velcro::ui::RowGrid& xGrid, const QString& xName)> exportExcell;
     /// Shows the technical reference of a screen, by the name of its unit.
     std::function<void(const QString& xFormCode)> techHelp;
 };

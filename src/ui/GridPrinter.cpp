@@ -49,13 +49,14 @@ public:
         beginPage();
     }
 
-    void beginRow(int /*row*/) override {
+    bool beginRow(int /*row*/) override {
         if (top_ + 2 * height_ > page_.height()) {
             printer_.newPage();
             beginPage();
         } else {
             top_ += height_;
         }
+        return true;
     }
 
     void cell(int position, const GridCell& cell) override {

@@ -29,7 +29,9 @@ void visitGrid(const RowGrid& grid, GridVisitor& visitor) {
     const int rows = grid.rowModel().rowCount();
     visitor.begin(columns, rows);
     for (int row = 0; row < rows; ++row) {
-        visitor.beginRow(row);
+        if (!visitor.beginRow(row)) {
+            return;
+        }
         for (int position = 0; position < static_cast<int>(columns.size()); ++position) {
             visitor.cell(position, {grid.rowModel(), row, columns[position].index});
         }

@@ -43,7 +43,8 @@ public:
     virtual ~GridVisitor() = default;
     /// First of all, also of a grid without columns or rows.
     virtual void begin(const std::vector<VisibleColumn>& columns, int rows) = 0;
-    virtual void beginRow(int /*row*/) {}
+    /// False ends the visit before the row.
+    virtual bool beginRow(int /*row*/) { return true; }
     /// position: of the column among the visible ones.
     virtual void cell(int position, const GridCell& cell) = 0;
 };

@@ -255,7 +255,10 @@ void RowGrid::goTo(int viewRow) {
         return;
     }
     int column = currentIndex().isValid() ? currentIndex().column() : 0;
-    while (column < model_.columnCount() && isColumnHidden(column)) {
+    if (isColumnHidden(column)) {
+        column = 0;
+    }
+    while (column + 1 < model_.columnCount() && isColumnHidden(column)) {
         ++column;
     }
     setCurrentIndex(model_.index(viewRow, column));
@@ -309,6 +312,20 @@ void RowGrid::endEdit() {
         commitData(editor);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
+}
+
+int RowGrid::widthOf(int column) const {
+    return isColumnHidden(column) ? std::clamp(sizeHintForColumn(column), narrowest, widest)
+                                  : columnWidth(column);
+}
+
+void RowGrid::setWidthOf(int column, int width) {
+    setColumnWidth(column, width);
+    columnsFitted_ = true;
+}
+
+void RowGrid::standOnShownColumn() {
+    goTo(currentIndex().row());
 }
 
 void RowGrid::showEvent(QShowEvent* event) {

@@ -36,6 +36,15 @@ public:
     /// Takes what is being typed into a cell.
     void endEdit();
 
+    /// In pixels; of a hidden column, what its rows want.
+    int widthOf(int column) const;
+    /// The user's own width, which stays when rows come.
+    void setWidthOf(int column, int width);
+    /// Gives the columns that are shown the widths they have on first show.
+    void fitColumns();
+    /// After columns were hidden: highlight and keys want a current cell that is seen.
+    void standOnShownColumn();
+
 signals:
     /// Enter on a row, or a double click.
     void rowChosen();
@@ -64,7 +73,6 @@ private:
     };
     std::vector<Fit> wantedWidths() const;
     static void shareRoom(std::vector<Fit>& fits, int room);
-    void fitColumns();
     void goTo(int viewRow);
 
     RowSetModel model_;

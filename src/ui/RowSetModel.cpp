@@ -30,6 +30,7 @@ CellType typeOf(sql::ColumnType type) {
     case sql::ColumnType::Integer:
         return CellType::Whole;
     case sql::ColumnType::Float:
+    case sql::ColumnType::Decimal:
         return CellType::Decimal;
     case sql::ColumnType::Date:
     case sql::ColumnType::DateTime:

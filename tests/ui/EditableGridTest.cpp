@@ -71,7 +71,10 @@ struct Listener : GridVisitor
             lines.last() += ", " + column.heading;
         }
     }
-    void beginRow(int row) override { lines << QString::number(row); }
+    bool beginRow(int row) override {
+        lines << QString::number(row);
+        return true;
+    }
     void cell(int /*position*/, const GridCell& cell) override {
         lines.last() += ", " + told(cell.value());
     }
