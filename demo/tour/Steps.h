@@ -12,6 +12,8 @@ void addMenus(Tour& tour);
 void addWorkshop(Tour& tour);
 void addRegister(Tour& tour);
 void addBooking(Tour& tour);
+/// Of the order that was booked in.
+void addItems(Tour& tour);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
 /// The last steps: the program ends.

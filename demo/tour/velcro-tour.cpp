@@ -52,6 +52,7 @@ int walk(int argc, char** argv) {
     addWorkshop(tour);
     addRegister(tour);
     addBooking(tour);
+    addItems(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());
     addExit(tour);
