@@ -14,6 +14,7 @@ void addRegister(Tour& tour);
 void addBooking(Tour& tour);
 /// Of the order that was booked in.
 void addItems(Tour& tour);
+void addProcesses(Tour& tour);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
 /// The last steps: the program ends.

@@ -53,6 +53,7 @@ int walk(int argc, char** argv) {
     addRegister(tour);
     addBooking(tour);
     addItems(tour);
+    addProcesses(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());
     addExit(tour);

@@ -4,12 +4,11 @@
 #include "data/Session.h"
 #include "data/StatementText.h"
 #include "repairs/CRO101A.h"
+#include "repairs/CRO102.h"
 #include "repairs/SysCRO.h"
 #include "ui/FormBuilder.h"
 
 #include <QLineEdit>
-
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -51,12 +50,29 @@ TfrmCRO101::TfrmCRO101(const RepairOrderKey& order, QWidget* parent)
                     deleteButton(u"Remove Item"_s),
                     laterButton(u"btnImages"_s, u"Item Images"_s, Qt::Key_F4,
                                 u"Pictures of the item [F4]"_s),
-                    laterButton(u"btnProcesses"_s, u"Item Process"_s, Qt::Key_F5,
-                                u"Work steps on the item [F5]"_s),
+                    processesButton(),
                     laterButton(u"btnQuotation"_s, u"Item Estimate"_s, {},
                                 u"Estimate of the item [F6]"_s)},
         .functions = {restoreButton(), print},
     });
+}
+
+ButtonFacts TfrmCRO101::processesButton() {
+    return {.name = u"btnProcesses"_s,
+            .caption = u"Item Process"_s,
+            .key = Qt::Key_F5,
+            .handler = [this] { showForCurrent([this](int) { showProcesses(); }); },
+            .needsRecord = true,
+            .hint = u"Work steps on the item [F5]"_s};
+}
+
+// The item's number is not handed over.
+void TfrmCRO101::showProcesses() {
+    TfrmCRO102 processes(this);
+    processes.edCRONo->setText(order_.xCRONo);
+    processes.edSerialNo->setText(currentText("SerialNo"));
+    processes.edDescription1->setText(currentText("Description1"));
+    velcro::ui::runModal(processes);
 }
 
 void TfrmCRO101::makeBand() {
@@ -91,9 +107,7 @@ QStringList TfrmCRO101::statementLines(const QString& /*xSQL*/) const {
 }
 
 void TfrmCRO101::afterRead() {
-    if (gMainRecID > 0) {
-        grid().locate(u"RecID"_s, QString::number(std::exchange(gMainRecID, 0)));
-    }
+    cro_LocateMainRecord(grid());
 }
 
 void TfrmCRO101::openDetail(int xFunction, int xRecID) {

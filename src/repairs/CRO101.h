@@ -19,6 +19,8 @@ protected:
 
 private:
     void makeBand();
+    ButtonFacts processesButton();
+    void showProcesses();
 
     const RepairOrderKey order_;
 };

@@ -6,6 +6,9 @@
 #include "data/StatementText.h"
 #include "lookups/CRO900.h"
 #include "ui/Modal.h"
+#include "ui/RowGrid.h"
+
+#include <utility>
 
 namespace {
 
@@ -33,6 +36,12 @@ int nextAfter(int highest) {
 }
 
 } // namespace
+
+void cro_LocateMainRecord(velcro::ui::RowGrid& grid) {
+    if (gMainRecID > 0) {
+        grid.locate(QStringLiteral("RecID"), QString::number(std::exchange(gMainRecID, 0)));
+    }
+}
 
 QString cro_BrowseDEBMaster(QString xStartSearch, QWidget* parent) {
     sfg_ResetParamFields({});

@@ -5,9 +5,14 @@
 
 class QWidget;
 
+namespace velcro::ui {
+class RowGrid;
+}
+
 /// RecID that the next list of items or processes stands on when it opens, which then sets it back
 /// to 0; 0 leaves it on its first row. For a module that leads a user there.
 inline int gMainRecID = 0;
+void cro_LocateMainRecord(velcro::ui::RowGrid& grid);
 
 /// Lets the user choose a customer. The account, blank if none was chosen; gSParam1 has the name and
 /// gSParam2 the default branch. The starting search is handed on and not applied: the list always
