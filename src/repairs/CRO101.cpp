@@ -83,6 +83,7 @@ void TfrmCRO101::makeBand() {
         .edit(u"edAccount"_s, u"Account"_s, {.width = 12, .readOnly = true})
         ->setText(order_.xAccount);
     form.edit(u"edName"_s, u"Name"_s, {.width = 40, .readOnly = true})->setText(order_.xName);
+    form.stretch();
 }
 
 // The inner join behind the outer one drops an item whose serial number or stock row is gone,

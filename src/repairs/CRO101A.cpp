@@ -26,7 +26,7 @@ std::vector<DetailField> itemFields() {
     return {
         text("edCRONo", u"Order #No"_s, {.width = 10, .readOnly = true}),
         text("edAccount", u"Account"_s, {.beside = true, .width = 10, .readOnly = true}),
-        text("edName", u"Name"_s, {.beside = true, .width = 32, .readOnly = true}),
+        text("edName", u"Name"_s, {.beside = true, .width = 44, .readOnly = true}),
         page("pgItemInfo", u"Item Information"_s),
         text("edSerialNo", u"Serial Number"_s, {.width = 30, .browse = true}),
         text("edStockCode", u"Stock Code"_s, {.width = 30, .readOnly = true}),

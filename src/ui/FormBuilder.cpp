@@ -173,6 +173,7 @@ void FormBuilder::newRows(QWidget* page) {
 }
 
 void FormBuilder::endGroup() {
+    shareRoom();
     groups_ = nullptr;
     owner_ = nullptr;
     grid_ = nullptr;
@@ -216,6 +217,7 @@ QGroupBox* FormBuilder::addGroup(const QString& title, bool besideLast) {
 }
 
 void FormBuilder::newGrid(QWidget* owner) {
+    shareRoom();
     owner_ = owner;
     grid_ = new QGridLayout(owner);
     grid_->setContentsMargins(margin, margin, margin, margin);
@@ -256,12 +258,33 @@ void FormBuilder::place(QWidget* widget, const QString& label) {
         labels_.push_back({text, grid_, column_});
         grid_->addWidget(widget, row_, column_ + 1, Qt::AlignLeft);
     }
-    // What is left of the row goes behind its last control. Groups below each other share it alike,
-    // so that their columns stand in line.
-    for (int i = 1; i < grid_->columnCount(); i += 2) {
-        const bool here = i == column_ + 1;
-        const int wanted = framed_ || !here ? 1 : widget->sizeHint().width();
-        grid_->setColumnStretch(i, std::max(grid_->columnStretch(i), wanted));
+    // What is left of the row goes behind its last control.
+    for (int i = 0; i < grid_->columnCount(); ++i) {
+        grid_->setColumnStretch(i, i % 2);
+    }
+}
+
+// Groups below each other share their room alike, so that their columns stand in line. Elsewhere it
+// goes to the columns by what stands in them, and a control that stands alone has its row.
+void FormBuilder::shareRoom() {
+    if (grid_ == nullptr || framed_) {
+        return;
+    }
+    const int columns = grid_->columnCount();
+    for (int row = 0; row < grid_->rowCount(); ++row) {
+        const bool alone = grid_->itemAtPosition(row, 3) == nullptr;
+        for (int i = 1; i < columns; i += 2) {
+            auto* item = grid_->itemAtPosition(row, i);
+            if (item == nullptr || item == grid_->itemAtPosition(row, 0)) {
+                continue;
+            }
+            if (auto* widget = item->widget(); widget != nullptr && alone) {
+                grid_->removeWidget(widget);
+                grid_->addWidget(widget, row, 1, 1, columns - 1, Qt::AlignLeft);
+                break;
+            }
+            grid_->setColumnStretch(i, std::max(grid_->columnStretch(i), item->sizeHint().width()));
+        }
     }
 }
 
@@ -440,6 +463,7 @@ void FormBuilder::endPage() {
 }
 
 void FormBuilder::stretch() {
+    shareRoom();
     alignLabels();
     endPage();
 }

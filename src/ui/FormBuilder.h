@@ -97,6 +97,7 @@ private:
                              const QString& icon);
     void place(QWidget* widget, const QString& label);
     void alignLabels();
+    void shareRoom();
 
     struct Label
     {
