@@ -119,4 +119,11 @@ QString plainDecimal(const QString& text) {
     return plain;
 }
 
+QString moneyText(const QString& text) {
+    const QString plain = isDecimal(text) ? plainDecimal(text) : text;
+    const auto point = plain.indexOf(u'.');
+    const bool isLonger = point >= 0 && plain.size() - point - 1 > 2;
+    return isDecimal(text) && !isLonger ? roundedDecimal(plain, 2) : plain;
+}
+
 } // namespace velcro::ui

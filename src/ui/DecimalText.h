@@ -20,4 +20,7 @@ QString roundedDecimal(const QString& text, int decimals);
 /// A decimal text without needless zeros: "-007.50" is "-7.5", "-0.0" is "0".
 QString plainDecimal(const QString& text);
 
+/// A decimal text with two decimals, or more where it has more: "0.00", "12.075". Any other text stays.
+QString moneyText(const QString& text);
+
 } // namespace velcro::ui

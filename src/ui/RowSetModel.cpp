@@ -132,11 +132,11 @@ int RowSetModel::columnOf(const QString& name) const {
 
 CellType RowSetModel::cellType(int column) const {
     const auto& declared = columns_[column];
-    if (declared.display != nullptr) {
-        return CellType::Text;
-    }
     if (declared.type != CellType::AsRead) {
         return declared.type;
+    }
+    if (declared.display != nullptr) {
+        return CellType::Text;
     }
     const auto source = sources_[column];
     return source ? typeOf(rows_.column(*source).type) : CellType::Text;

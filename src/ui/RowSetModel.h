@@ -36,7 +36,7 @@ struct GridColumn
 {
     QString field;        // column of the result; case does not count
     QString caption = {}; // blank: the field's name
-    /// Turns the stored text into what is shown, which is text then; none shows it as stored.
+    /// Turns the stored text into what is shown, which is text unless a type says otherwise.
     QString (*display)(const QString& stored) = nullptr;
     CellType type = CellType::AsRead;
     bool editable = false;
