@@ -15,6 +15,8 @@ void addBooking(Tour& tour);
 /// Of the order that was booked in.
 void addItems(Tour& tour);
 void addProcesses(Tour& tour);
+/// Pictures of an item; the register arranged and exported.
+void addImages(Tour& tour);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
 /// The last steps: the program ends.

@@ -40,6 +40,7 @@ void useScreen(QTemporaryFile& file, const QString& size) {
 
 int walk(int argc, char** argv) {
     QTemporaryFile screen;
+    qputenv("VELCRO_CAMERA", "simulated");
     useScreen(screen, argc > 2 ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("1024x768"));
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -54,6 +55,7 @@ int walk(int argc, char** argv) {
     addBooking(tour);
     addItems(tour);
     addProcesses(tour);
+    addImages(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());
     addExit(tour);

@@ -6,6 +6,8 @@
 #include "application/VersionCheck.h"
 #include "data/DataModules.h"
 #include "data/SysDataModel.h"
+#include "platform/camera/SeatCamera.h"
+#include "platform/camera/SimulatedCamera.h"
 #include "repairs/CRO100.h"
 #include "reports/ReportFunctions.h"
 #include "screens/ImageLists.h"
@@ -32,6 +34,17 @@ StartUpSteps stepsFor(TfrmMAIN000& mainForm) {
     return steps;
 }
 
+// A seat without a camera can try the screen of the pictures out.
+velcro::camera::CameraMaker cameraMaker() {
+    if (qEnvironmentVariable("VELCRO_CAMERA") != QLatin1String("simulated")) {
+        return velcro::camera::makeSeatCamera;
+    }
+    return [] {
+        return std::make_unique<velcro::camera::SimulatedCamera>(
+            QStringList{QStringLiteral("Simulated camera"), QStringLiteral("Second camera")});
+    };
+}
+
 template <typename Screen>
 std::unique_ptr<QDialog> make(QWidget* parent) {
     return std::make_unique<Screen>(parent);
@@ -48,6 +61,7 @@ Program::Program(const QStringList& arguments)
     createDataModules();
     fillImageLists(*sData);
     registerReportFunctions();
+    velcro::camera::makeCamera = cameraMaker();
     gScreenServices.techHelp = sfvel_TechHelp;
     gMenuScreens = {
         .repairOrders = make<TfrmCRO100>,

@@ -5,6 +5,7 @@
 #include "data/StatementText.h"
 #include "repairs/CRO101A.h"
 #include "repairs/CRO102.h"
+#include "repairs/CRO103.h"
 #include "repairs/SysCRO.h"
 #include "ui/FormBuilder.h"
 
@@ -46,10 +47,15 @@ TfrmCRO101::TfrmCRO101(const RepairOrderKey& order, QWidget* parent)
     auto print = printButton();
     print.caption = u"Print     Item"_s;
     setButtons({
-        .options = {addButton(u"New* Item"_s), updateButton(u"Edit Item"_s),
+        .options = {addButton(u"New* Item"_s),
+                    updateButton(u"Edit Item"_s),
                     deleteButton(u"Remove Item"_s),
-                    laterButton(u"btnImages"_s, u"Item Images"_s, Qt::Key_F4,
-                                u"Pictures of the item [F4]"_s),
+                    {.name = u"btnImages"_s,
+                     .caption = u"Item Images"_s,
+                     .key = Qt::Key_F4,
+                     .handler = [this] { showForCurrent([this](int) { showImages(); }); },
+                     .needsRecord = true,
+                     .hint = u"Pictures of the item [F4]"_s},
                     processesButton(),
                     laterButton(u"btnQuotation"_s, u"Item Estimate"_s, {},
                                 u"Estimate of the item [F6]"_s)},
@@ -114,4 +120,10 @@ void TfrmCRO101::afterRead() {
 void TfrmCRO101::openDetail(int xFunction, int xRecID) {
     showDetail<TfrmCRO101A>(xFunction, xRecID,
                             [this](TfrmCRO101A& detail) { detail.showOrder(order_); });
+}
+
+void TfrmCRO101::showImages() {
+    TfrmCRO103 form({order_.xCRONo, currentText("ItemNo")}, currentText("SerialNo"),
+                    currentText("Description1"), this);
+    velcro::ui::runModal(form);
 }

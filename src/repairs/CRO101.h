@@ -21,6 +21,7 @@ private:
     void makeBand();
     ButtonFacts processesButton();
     void showProcesses();
+    void showImages();
 
     const RepairOrderKey order_;
 };

@@ -144,6 +144,7 @@ private:
     QVBoxLayout* panel_ = nullptr;  // its buttons
     QVBoxLayout* column_ = nullptr; // search, what stands above, grid, navigation
     QBoxLayout* sides_ = nullptr;
+    QBoxLayout* middle_ = nullptr; // the grid, and what stands beside it
     RecordBar* records_ = nullptr;
     velcro::ui::KeyButton* enterButton_ = nullptr;
     std::vector<velcro::ui::KeyButton*> recordButtons_;

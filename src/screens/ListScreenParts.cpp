@@ -139,7 +139,10 @@ void ListScreen::makeRight() {
         column_->addWidget(pnlSearch_);
     }
     makeGrid();
-    column_->addWidget(grid_, 1);
+    middle_ = new QHBoxLayout;
+    middle_->setSpacing(margin);
+    middle_->addWidget(grid_, 1);
+    column_->addLayout(middle_, 1);
     records_ = new RecordBar(*this, *grid_, newTechHelpButton());
     column_->addWidget(records_);
     sides_->addLayout(column_, 1);
@@ -149,7 +152,7 @@ QWidget& ListScreen::above() {
     if (above_ == nullptr) {
         above_ = new QWidget(this);
         above_->setObjectName(u"pnlAbove"_s);
-        column_->insertWidget(column_->indexOf(grid_), above_);
+        column_->insertWidget(column_->indexOf(middle_), above_);
     }
     return *above_;
 }
@@ -158,7 +161,7 @@ QWidget& ListScreen::beside() {
     if (beside_ == nullptr) {
         beside_ = new QWidget(this);
         beside_->setObjectName(u"pnlBeside"_s);
-        sides_->addWidget(beside_, 1);
+        middle_->addWidget(beside_, 1);
     }
     return *beside_;
 }

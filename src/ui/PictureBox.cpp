@@ -19,8 +19,9 @@ void PictureBox::setPicture(const QString& name, Qt::AspectRatioMode fit) {
     update();
 }
 
-void PictureBox::setImage(const QImage& image) {
+void PictureBox::setImage(const QImage& image, Qt::AspectRatioMode fit) {
     image_ = image;
+    imageFit_ = fit;
     update();
 }
 
@@ -32,7 +33,9 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
         if (image_.isNull()) {
             paintPicture(painter, picture_, rect(), fit_);
         } else {
-            painter.drawImage(rect(), image_);
+            QRect place(QPoint(), image_.size().scaled(size(), imageFit_));
+            place.moveCenter(rect().center());
+            painter.drawImage(place, image_);
         }
     });
 }

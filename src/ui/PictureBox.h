@@ -15,7 +15,8 @@ public:
 
     /// A picture of the program; Qt::KeepAspectRatioByExpanding covers the whole box.
     void setPicture(const QString& name, Qt::AspectRatioMode fit = Qt::KeepAspectRatio);
-    void setImage(const QImage& image);
+    void setImage(const QImage& image, Qt::AspectRatioMode fit = Qt::IgnoreAspectRatio);
+    const QImage& image() const { return image_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,6 +25,7 @@ private:
     QString picture_;
     Qt::AspectRatioMode fit_ = Qt::KeepAspectRatio;
     QImage image_;
+    Qt::AspectRatioMode imageFit_ = Qt::IgnoreAspectRatio;
 };
 
 } // namespace velcro::ui
