@@ -1,0 +1,146 @@
+#include "support/RawServer.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace velcro::test {
+
+namespace {
+
+/// Of the body, as the headers tell; 0 where they do not.
+std::size_t lengthOf(const std::string& headers) {
+    const auto at = headers.find("Content-Length: ");
+    return at == std::string::npos ? 0 : std::stoul(headers.substr(at + 16));
+}
+
+bool sendAll(int client, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto sent = ::send(client, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        if (sent <= 0) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+    }
+    return true;
+}
+
+} // namespace
+
+RawServer::RawServer(Answer answer)
+    : answer_(std::move(answer))
+    , listener_(socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* plain = reinterpret_cast<sockaddr*>(&address);
+    if (bind(listener_, plain, size) != 0 || listen(listener_, 8) != 0 ||
+        getsockname(listener_, plain, &size) != 0 || pipe(wake_) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no server on loopback");
+    }
+    port_ = ntohs(address.sin_port);
+    thread_ = std::thread([this] { serve(); });
+}
+
+RawServer::~RawServer() {
+    close(wake_[1]);
+    thread_.join();
+    close(wake_[0]);
+    close(listener_);
+}
+
+std::vector<std::string> RawServer::requests() const {
+    const std::lock_guard lock(mutex_);
+    return requests_;
+}
+
+int RawServer::connections() const {
+    const std::lock_guard lock(mutex_);
+    return connections_;
+}
+
+std::string RawServer::whole(const std::string& body, const std::string& status) {
+    return "HTTP/1.1 " + status + "\r\nContent-Length: " + std::to_string(body.size()) +
+           "\r\n\r\n" + body;
+}
+
+/// False when the test is over.
+bool RawServer::readable(int socket) const {
+    pollfd waits[] = {{socket, POLLIN, 0}, {wake_[0], POLLIN, 0}};
+    poll(waits, 2, -1);
+    return waits[1].revents == 0;
+}
+
+void RawServer::serve() {
+    while (readable(listener_)) {
+        const int client = accept(listener_, nullptr, nullptr);
+        {
+            const std::lock_guard lock(mutex_);
+            ++connections_;
+        }
+        serveClient(client);
+        close(client);
+    }
+}
+
+void RawServer::serveClient(int client) {
+    for (;;) {
+        const std::string request = readRequest(client);
+        if (request.empty()) {
+            return;
+        }
+        int n = 0;
+        {
+            const std::lock_guard lock(mutex_);
+            requests_.push_back(request);
+            n = static_cast<int>(requests_.size());
+        }
+        const Reply reply = answer_(n);
+        sendReply(client, reply);
+        if (reply.then == Reply::Cut) {
+            return;
+        }
+        if (reply.then == Reply::Stall) {
+            readable(client); // its end, or the test's
+            return;
+        }
+    }
+}
+
+/// Blank when the client went or the test is over.
+std::string RawServer::readRequest(int client) const {
+    std::string bytes;
+    char buffer[4096];
+    for (;;) {
+        const auto end = bytes.find("\r\n\r\n");
+        if (end != std::string::npos && bytes.size() >= end + 4 + lengthOf(bytes.substr(0, end))) {
+            return bytes;
+        }
+        const auto count = readable(client) ? recv(client, buffer, sizeof buffer, 0) : 0;
+        if (count <= 0) {
+            return {};
+        }
+        bytes.append(buffer, static_cast<std::size_t>(count));
+    }
+}
+
+void RawServer::sendReply(int client, const Reply& reply) const {
+    sendAll(client, reply.bytes);
+    const std::string part(reply.pause > 0 ? 1 : 64 * 1024, 'x');
+    for (auto left = reply.filling; left > 0;) {
+        const auto size = std::min<std::uint64_t>(left, part.size());
+        pollfd over = {wake_[0], POLLIN, 0};
+        if (poll(&over, 1, reply.pause) != 0 ||
+            !sendAll(client, std::string_view(part).substr(0, size))) {
+            return;
+        }
+        left -= size;
+    }
+}
+
+} // namespace velcro::test
