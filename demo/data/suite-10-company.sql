@@ -94,8 +94,23 @@ GO
 INSERT INTO SYSGrpLockAppTimers ([CO], [Branch], [UserGroup], [PgmName], [LockTime]) VALUES
     ('01', '100', 'MGMT', 'velCRO', 999), ('01', '101', 'CNTR', 'velCRO', 30), ('01', '102', 'CNTR', 'velCRO', 5);
 GO
+-- Messages: users on the list (U), customers (C), one-time pins of both (O, N); those of types that
+-- begin with VIP go to members. Where they go is not set, so none leaves a sample seat.
 INSERT INTO SysTxanSMS ([CO], [Branch], [TxTp], [MsgType], [TxtHeader], [TxtTrailer]) VALUES
-    ('01', '100', 'POSEMP', 'U', 'Birthday today: @AccName#', 'Sent @CurrDate# by @User#');
+    ('01', '100', 'POSEMP', 'U', 'Birthday today: @AccName#', 'Sent @CurrDate# by @User#'),
+    ('01', '100', 'POSINV', 'C', 'Dear customer, invoice @DocNo# of @Amount# was charged to @Account#.', 'Balance @Balance#'),
+    ('01', '100', 'POSINV', 'U', 'Invoice @DocNo#, @Amount#', '@CurrDateTime#'),
+    ('01', '100', 'POSINV', 'O', 'Pin @OTP# for @DocNo#', 'asked for by @User#'),
+    ('01', '100', 'POSINV', 'N', 'Your pin is @OTP#.', ''),
+    ('01', '100', 'VIPJOI', 'C', 'Welcome @AccName#, your card is @Account#', 'since @TranDate#'),
+    ('01', '100', 'VIPJOI', 'N', 'Your member pin is @OTP#.', '@RefNo# @Details#');
 INSERT INTO SYSUserSMS ([CO], [Branch], [UserCode], [TxTp], [MsgType], [SMS], [EMail]) VALUES
-    ('01', '100', 'MANAGER', 'POSEMP', 'U', 'Y', 'N');
+    ('01', '100', 'MANAGER',  'POSEMP', 'U', 'Y', 'N'),
+    ('01', '100', 'SUPER2',   'POSEMP', 'U', 'Y', 'N'),
+    ('01', '100', 'MANAGER',  'POSINV', 'U', 'Y', 'N'),
+    ('01', '100', 'SUPER1',   'POSINV', 'O', 'Y', 'N');
+INSERT INTO POSVIPMembers ([CO], [VIPNo], [SourceBranch], [VIPCardNo], [Name], [Title], [CellNo], [DateJoined], [Status]) VALUES
+    ('01', 1, '100', '600100', 'Mirabel Tansy',      'MS', '0825550161', '$(TODAY-400)', 'A'),
+    ('01', 2, '100', '600101', N'Björn Ålesker',     'MR', '083-555-0162', '$(TODAY-60)', 'A'),
+    ('01', 3, '101', '600102', 'Nobody by telephone', '',  '',           '$(TODAY)',     'A');
 GO

@@ -1,6 +1,7 @@
 #include "application/Program.h"
 
 #include "application/DatabaseWait.h"
+#include "application/ServiceWait.h"
 #include "application/SessionInit.h"
 #include "application/StartUp.h"
 #include "application/VersionCheck.h"
@@ -58,6 +59,7 @@ Program::Program(const QStringList& arguments)
     QApplication::setWindowIcon(velcro::ui::icon(QStringLiteral("product-logo")));
     connectPrompts();
     watchDatabaseWaits();
+    watchServiceWaits();
     createDataModules();
     fillImageLists(*sData);
     registerReportFunctions();

@@ -16,6 +16,7 @@ using velcro::test::Desk;
 
 TEST(LogInRequestsTest, noneIsSentOftenerThanItsStepsAsk) {
     const Desk desk{Desk::Start::Configured};
+    Desk::onSuite("DELETE FROM EMPMaster"); // birthday messages ask again for each employee
     const velcro::test::DroppingServer server;
     cData->ConnectDB_Common();
     ASSERT_TRUE(sli_VerifyDatabase(QStringLiteral("Brindavel Central Workshop")));

@@ -263,19 +263,6 @@ TEST_F(SysLogInTest, faultsShowTheirNumberAndGoOnAsTheyMust) {
     EXPECT_TRUE(desk.shown[1].startsWith("999999|SQL Error reading Table: SysUserComp\r"));
 }
 
-TEST_F(SysLogInTest, birthdaysWithoutAWayToSendAreTriedAgain) {
-    ASSERT_TRUE(logIn(central, "COUNTER1", "COUNTER")) << gErrorMsg.toStdString();
-    const QString birthdays = "SELECT COUNT(*) FROM EMPMaster WHERE CO = '01' AND Branch = '100' "
-                              "AND SUBSTRING(BirthDate, 6, 5) = '" +
-                              sfg_Date(0).mid(5) + "'";
-    EXPECT_GT(Desk::suite(birthdays).toInt(), 0) << "the sample has an employee born today";
-    EXPECT_EQ(Desk::suite("SELECT COUNT(*) FROM EMPTxans WHERE TranDate = '" + sfg_Date(0) + "'"),
-              "0");
-    EXPECT_TRUE(sli_Process_Employee_Birthday_SMS()) << "there are employees to try again";
-    Desk::onSuite("DELETE FROM EMPMaster");
-    EXPECT_FALSE(sli_Process_Employee_Birthday_SMS());
-}
-
 TEST_F(SysLogInTest, whoCannotBeReadIsNotTheUserBefore) {
     ASSERT_TRUE(logIn(central, "COUNTER1", "COUNTER")) << gErrorMsg.toStdString();
     Desk::onSuite("DROP TABLE SysUser");

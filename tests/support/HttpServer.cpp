@@ -81,7 +81,7 @@ HttpServer::HttpServer(Answer answer, Security security)
     constexpr auto anything = R"([\s\S]*)";
     server_->Get(anything, serve);
     server_->Post(anything, serve);
-    server_->set_keep_alive_timeout(1); // a stop waits for it
+    server_->set_keep_alive_max_count(1); // a stop waits for connections that are kept
     server_->set_tcp_nodelay(true);
     port_ = server_->bind_to_any_port("127.0.0.1");
     if (port_ < 0) {
