@@ -192,6 +192,7 @@ QWidget* FormBuilder::page(const QString& name, const QString& caption) {
     auto* page = new QWidget;
     page->setObjectName(name);
     pager_->addTab(page, caption);
+    pager_->setTabToolTip(pager_->indexOf(page), QStringLiteral("Ctrl+Tab turns to the next page"));
     newRows(page);
     return page;
 }
@@ -264,26 +265,25 @@ void FormBuilder::place(QWidget* widget, const QString& label) {
     }
 }
 
-// Groups below each other share their room alike, so that their columns stand in line. Elsewhere it
-// goes to the columns by what stands in them, and a control that stands alone has its row.
+// Groups below each other share their room alike, so that their columns stand in line. Elsewhere
+// controls stand close together, and one that stands alone has its row.
 void FormBuilder::shareRoom() {
     if (grid_ == nullptr || framed_) {
         return;
     }
     const int columns = grid_->columnCount();
+    for (int i = 1; i < columns; i += 2) {
+        grid_->setColumnStretch(i, 0);
+    }
+    grid_->setColumnStretch(columns, 1);
     for (int row = 0; row < grid_->rowCount(); ++row) {
+        auto* item = grid_->itemAtPosition(row, 1);
         const bool alone = grid_->itemAtPosition(row, 3) == nullptr;
-        for (int i = 1; i < columns; i += 2) {
-            auto* item = grid_->itemAtPosition(row, i);
-            if (item == nullptr || item == grid_->itemAtPosition(row, 0)) {
-                continue;
-            }
-            if (auto* widget = item->widget(); widget != nullptr && alone) {
-                grid_->removeWidget(widget);
-                grid_->addWidget(widget, row, 1, 1, columns - 1, Qt::AlignLeft);
-                break;
-            }
-            grid_->setColumnStretch(i, std::max(grid_->columnStretch(i), item->sizeHint().width()));
+        if (alone && item != nullptr && item->widget() != nullptr &&
+            item != grid_->itemAtPosition(row, 0)) {
+            auto* widget = item->widget();
+            grid_->removeWidget(widget);
+            grid_->addWidget(widget, row, 1, 1, columns, Qt::AlignLeft);
         }
     }
 }
