@@ -88,7 +88,7 @@ void TfrmCRO101::makeBand() {
     form.beside()
         .edit(u"edAccount"_s, u"Account"_s, {.width = 12, .readOnly = true})
         ->setText(order_.xAccount);
-    form.edit(u"edName"_s, u"Name"_s, {.width = 40, .readOnly = true})->setText(order_.xName);
+    form.edit(u"edName"_s, u"Name"_s, {.width = 60, .readOnly = true})->setText(order_.xName);
     form.stretch();
 }
 
