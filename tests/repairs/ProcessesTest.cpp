@@ -2,6 +2,7 @@
 #include "data/DataModules.h"
 #include "data/DateTimeText.h"
 #include "data/Session.h"
+#include "platform/seat/Clock.h"
 #include "data/SysDataModel.h"
 #include "data/SysLoadData.h"
 #include "repairs/CRO102.h"
@@ -148,6 +149,8 @@ TEST_F(ProcessesTest, aRowThatWasAskedForIsFoundOnce) {
 
 TEST_F(ProcessesTest, everyFieldComesIntoItsColumnAndBack) {
     const int number = nextNumber() + 1;
+    velcro::seat::setClock(velcro::seat::now()); // both rows are stamped in one second
+    const auto goOn = qScopeGuard([] { velcro::seat::setClock({}); });
     expectEveryColumnIsKept(user, {.screen = [] { return std::make_unique<TfrmCRO102A>(); },
                                    .others = {{"Branch", "100"},
                                               {"CRONo", ""},
