@@ -29,15 +29,6 @@ ListFacts itemFacts() {
     };
 }
 
-ButtonFacts laterButton(const QString& name, const QString& caption, const QKeySequence& key,
-                        const QString& hint) {
-    return {.name = name,
-            .caption = caption,
-            .key = key,
-            .needsRecord = true,
-            .hint = hint + u": not part of the program yet"_s};
-}
-
 } // namespace
 
 TfrmCRO101::TfrmCRO101(const RepairOrderKey& order, QWidget* parent)
@@ -47,29 +38,29 @@ TfrmCRO101::TfrmCRO101(const RepairOrderKey& order, QWidget* parent)
     auto print = printButton();
     print.caption = u"Print     Item"_s;
     setButtons({
-        .options = {addButton(u"New* Item"_s),
-                    updateButton(u"Edit Item"_s),
+        .options = {addButton(u"New* Item"_s), updateButton(u"Edit Item"_s),
                     deleteButton(u"Remove Item"_s),
-                    {.name = u"btnImages"_s,
-                     .caption = u"Item Images"_s,
-                     .key = Qt::Key_F4,
-                     .handler = [this] { showForCurrent([this](int) { showImages(); }); },
-                     .needsRecord = true,
-                     .hint = u"Pictures of the item [F4]"_s},
-                    processesButton(),
-                    laterButton(u"btnQuotation"_s, u"Item Estimate"_s, {},
-                                u"Estimate of the item [F6]"_s)},
+                    belowButton(u"btnImages"_s, u"Item Images"_s, Qt::Key_F4,
+                                u"Pictures of the item [F4]"_s, &TfrmCRO101::showImages),
+                    belowButton(u"btnProcesses"_s, u"Item Process"_s, Qt::Key_F5,
+                                u"Work steps on the item [F5]"_s, &TfrmCRO101::showProcesses),
+                    belowButton(u"btnQuotation"_s, u"Item Estimate"_s, {},
+                                u"Estimate of the item [F6]"_s, nullptr)},
         .functions = {restoreButton(), print},
     });
 }
 
-ButtonFacts TfrmCRO101::processesButton() {
-    return {.name = u"btnProcesses"_s,
-            .caption = u"Item Process"_s,
-            .key = Qt::Key_F5,
-            .handler = [this] { showForCurrent([this](int) { showProcesses(); }); },
-            .needsRecord = true,
-            .hint = u"Work steps on the item [F5]"_s};
+ButtonFacts TfrmCRO101::belowButton(const QString& name, const QString& caption,
+                                    const QKeySequence& key, const QString& hint,
+                                    void (TfrmCRO101::*show)()) {
+    ButtonFacts facts = {
+        .name = name, .caption = caption, .key = key, .needsRecord = true, .hint = hint};
+    if (show != nullptr) {
+        facts.handler = [this, show] { showForCurrent([this, show](int) { (this->*show)(); }); };
+    } else {
+        facts.hint += u": not part of the program yet"_s;
+    }
+    return facts;
 }
 
 // The item's number is not handed over.

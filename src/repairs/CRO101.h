@@ -19,7 +19,9 @@ protected:
 
 private:
     void makeBand();
-    ButtonFacts processesButton();
+    /// Leads to a screen of what hangs below the current item; without one it is greyed and says so.
+    ButtonFacts belowButton(const QString& name, const QString& caption, const QKeySequence& key,
+                            const QString& hint, void (TfrmCRO101::*show)());
     void showProcesses();
     void showImages();
 
