@@ -1,5 +1,7 @@
 #include "Tour.h"
 
+#include "support/ScreenChecks.h"
+
 #include <QApplication>
 #include <QTextStream>
 #include <QTimer>
@@ -36,6 +38,18 @@ void Tour::picture(const QString& name) {
         fail(QStringLiteral("cannot write ") + folder_.filePath(file));
     }
     say(QStringLiteral("  -> ") + file);
+    judge(form());
+}
+
+// The main form's panels lie over its background, and over each other.
+void Tour::judge(QWidget& screen) {
+    QStringList faults = namelessControls(screen) + smallTargets(screen);
+    if (screen.isModal()) {
+        faults += clippedControls(screen) + offScreen(screen);
+    }
+    for (const auto& fault : faults) {
+        fail(fault);
+    }
 }
 
 void Tour::then(const QString& text, Step step) {

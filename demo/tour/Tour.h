@@ -41,6 +41,8 @@ private:
     };
 
     void walk();
+    /// Fails for what is cut off, off the screen, too small or without a name.
+    void judge(QWidget& screen);
 
     QDir folder_;
     std::deque<Planned> road_;

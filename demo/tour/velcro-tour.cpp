@@ -5,43 +5,22 @@
 #include "Steps.h"
 
 #include "application/Program.h"
+#include "support/TestScreen.h"
 #include "ui/Theme.h"
 
 #include <QApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryFile>
 
 #include <cstdio>
 #include <exception>
-#include <stdexcept>
 
 namespace {
-
-/// The offscreen platform reads the size of its screen from a file.
-void useScreen(QTemporaryFile& file, const QString& size) {
-    const QJsonObject screen{{"name", "tour"},
-                             {"x", 0},
-                             {"y", 0},
-                             {"width", size.section('x', 0, 0).toInt()},
-                             {"height", size.section('x', 1, 1).toInt()},
-                             {"logicalDpi", 96},
-                             {"logicalBaseDpi", 96},
-                             {"dpr", 1}};
-    const QJsonObject all{{"synchronousWindowSystemEvents", false},
-                          {"windowFrameMargins", false},
-                          {"screens", QJsonArray{screen}}};
-    if (!file.open() || file.write(QJsonDocument(all).toJson()) < 0 || !file.flush()) {
-        throw std::runtime_error("cannot write the screen's size");
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
-}
 
 int walk(int argc, char** argv) {
     QTemporaryFile screen;
     qputenv("VELCRO_CAMERA", "simulated");
-    useScreen(screen, argc > 2 ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("1024x768"));
+    const QString size = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("1024x768");
+    useScreen(screen, size.section('x', 0, 0).toInt(), size.section('x', 1, 1).toInt(), false);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

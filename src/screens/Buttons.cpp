@@ -1,5 +1,7 @@
 #include "screens/Buttons.h"
 
+#include "platform/seat/OnScreenKeyboard.h"
+#include "screens/SysFuncGlobal.h"
 #include "ui/Handler.h"
 #include "ui/Icons.h"
 #include "ui/KeyCap.h"
@@ -8,6 +10,7 @@
 
 using velcro::ui::connectHandler;
 using velcro::ui::KeyButton;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -43,7 +46,8 @@ KeyButton* makeButton(QWidget& form, const ButtonFacts& facts, PlainEnter enter)
     if (!facts.icon.isEmpty()) {
         button->setIcon(velcro::ui::icon(facts.icon));
     }
-    if (const auto cap = facts.cap.value_or(velcro::ui::keyCapName(facts.key)); !cap.isEmpty()) {
+    const auto cap = facts.cap.value_or(velcro::ui::keyCapName(facts.key));
+    if (velcro::ui::findKeyCap(cap) != nullptr) {
         button->setKeyCap(cap);
     }
     button->setEnabled(bool(facts.handler));
@@ -56,6 +60,21 @@ KeyButton* makeButton(QWidget& form, const ButtonFacts& facts, PlainEnter enter)
         if (!key.isEmpty() && !(enter == PlainEnter::StaysWithForm && isPlainEnter(key))) {
             bindKey(form, key, *button);
         }
+    }
+    return button;
+}
+
+KeyButton* makeKeyboardButton(QWidget& form) {
+    auto* button = makeButton(form, {.name = u"btnKeyboard"_s,
+                                     .caption = u"Touch Keyboard"_s,
+                                     .handler = sfg_ShowTouchKeyboard,
+                                     .hint = u"Touch Keyboard"_s});
+    button->setSymbol(velcro::ui::icon(u"keyboard"_s));
+    button->setFocusPolicy(Qt::NoFocus); // the edit that is typed into keeps the focus
+    if (!velcro::seat::hasKeyboard()) {
+        button->setEnabled(false);
+        button->setToolTip(u"No keyboard for the screen is installed on this seat"_s);
+        button->setAccessibleDescription(button->toolTip());
     }
     return button;
 }

@@ -34,5 +34,7 @@ enum class PlainEnter { PressesButton, StaysWithForm };
 /// Enter by itself, as a grid does, keeps it.
 velcro::ui::KeyButton* makeButton(QWidget& form, const ButtonFacts& facts,
                                   PlainEnter enter = PlainEnter::PressesButton);
+/// btnKeyboard, which starts the keyboard on the screen; greyed, and says so, on a seat without one.
+velcro::ui::KeyButton* makeKeyboardButton(QWidget& form);
 /// Whether the key is Enter with no other key held down.
 bool isPlainEnter(const QKeySequence& key);

@@ -9,15 +9,14 @@
 #include "data/SysLoadData.h"
 #include "screens/SysFuncGlobal.h"
 #include "ui/DateEdit.h"
+#include "ui/ScreenFit.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
-#include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -59,21 +58,9 @@ DetailScreen::DetailScreen(DetailFacts facts, QWidget* parent)
 void DetailScreen::makeForm() {
     pnlMain = new QWidget;
     pnlMain->setObjectName(u"pnlMain"_s);
-    auto* area = new QScrollArea(this);
+    auto* area = new velcro::ui::ScrollPage(pnlMain, this);
     area->setObjectName(u"scrMain"_s);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(pnlMain);
     body().addWidget(area, 1);
-    // On a small screen the control that is worked in scrolls into sight, however it got there.
-    connectHandler(qApp, &QApplication::focusChanged, this, [this, area](QWidget*, QWidget* now) {
-        if (now != nullptr && pnlMain->isAncestorOf(now)) {
-            const QRect control(now->mapTo(pnlMain, QPoint()), now->size());
-            area->ensureVisible(control.center().x(), control.center().y(),
-                                control.width() / 2 + margin, control.height() / 2 + margin);
-        }
-    });
     form_ = std::make_unique<DetailForm>(facts_, pnlMain);
     for (const auto& field : form_->fields()) {
         watch(field);
@@ -124,9 +111,7 @@ void DetailScreen::reject() {
 
 // Save stands at the bottom right, where the thumb is.
 void DetailScreen::makeButtons() {
-    btnKeyboard = makeButton(*this, {.name = u"btnKeyboard"_s,
-                                     .caption = u"Touch Keyboard"_s,
-                                     .handler = sfg_ShowTouchKeyboard});
+    btnKeyboard = makeKeyboardButton(*this);
     btnCancel = makeButton(*this, {.name = u"btnCancel"_s,
                                    .caption = u"Close Window"_s,
                                    .key = Qt::Key_Escape,
@@ -136,7 +121,6 @@ void DetailScreen::makeButtons() {
                                  .key = Qt::Key_F10,
                                  .handler = [this] { btnSaveClick(); },
                                  .role = KeyButton::Role::Main});
-    btnKeyboard->setFocusPolicy(Qt::NoFocus); // the edit that is typed into keeps the focus
     auto* row = new QHBoxLayout;
     row->setContentsMargins(margin, margin, margin, margin);
     row->setSpacing(margin);

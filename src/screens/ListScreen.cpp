@@ -5,6 +5,7 @@
 #include "data/SearchTerms.h"
 #include "screens/GridLayouts.h"
 #include "screens/GridPrint.h"
+#include "screens/PrintPreview.h"
 #include "screens/RecordBar.h"
 #include "screens/SearchPanel.h"
 
@@ -151,7 +152,9 @@ void ListScreen::acCancelExecute() {
 void ListScreen::btnPrintClick() {
     velcro::ui::GridPrinter printer(*grid_);
     sfvel_GridPrintTitle(printer, unitName() + u" - "_s + windowTitle(), QString());
-    printer.preview(this);
+    PrintPreview preview(
+        unitName(), [&printer](QPrinter& paper) { printer.print(paper); }, this);
+    velcro::ui::runModal(preview);
 }
 
 // A layout that cannot be read is no reason to keep the rows from the user.

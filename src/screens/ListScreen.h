@@ -10,8 +10,8 @@
 #include <functional>
 #include <vector>
 
+class ButtonPanel;
 class QBoxLayout;
-class QFrame;
 class QVBoxLayout;
 class RecordBar;
 class SearchPanel;
@@ -124,7 +124,6 @@ private:
     void makeGridMenu();
     void orderTabs();
     void addToPanel(const ButtonFacts& facts);
-    void addHeading(const QString& text);
     void hideSearch();
     void restoreLayout();
     void currentRecordChanged();
@@ -140,9 +139,8 @@ private:
     velcro::ui::RowGrid* grid_ = nullptr;
     QWidget* above_ = nullptr;
     QWidget* beside_ = nullptr;
-    QFrame* options_ = nullptr;     // on the left
-    QVBoxLayout* panel_ = nullptr;  // its buttons
-    QVBoxLayout* column_ = nullptr; // search, what stands above, grid, navigation
+    ButtonPanel* options_ = nullptr; // on the left
+    QVBoxLayout* column_ = nullptr;  // search, what stands above, grid, navigation
     QBoxLayout* sides_ = nullptr;
     QBoxLayout* middle_ = nullptr; // the grid, and what stands beside it
     RecordBar* records_ = nullptr;

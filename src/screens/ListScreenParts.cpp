@@ -1,103 +1,34 @@
 // How the parts of a list screen stand: the panel of buttons on the left, the grid with everything
 // else, first to last below it, the search panel that drops in above it.
+#include "screens/ButtonPanel.h"
 #include "screens/ListScreen.h"
 
 #include "screens/GridLayouts.h"
 #include "screens/RecordBar.h"
 #include "screens/SearchPanel.h"
-#include "ui/Theme.h"
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QFrame>
-#include <QLabel>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QToolButton>
 
-#include <algorithm>
-
 using velcro::ui::connectHandler;
-using velcro::ui::KeyButton;
 using velcro::ui::RowGrid;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
 constexpr int margin = 8;
-
-/// Buttons below each other, as wide as their captions want. They scroll where the screen is low.
-class ButtonArea : public QScrollArea
-{
-public:
-    explicit ButtonArea(QWidget* parent)
-        : QScrollArea(parent) {
-        auto* inside = new QWidget;
-        column_ = new QVBoxLayout(inside);
-        column_->setContentsMargins(margin, margin, margin, margin);
-        setObjectName(u"scrOptions"_s);
-        setWidget(inside);
-        setWidgetResizable(true);
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    }
-    QVBoxLayout* column() { return column_; }
-
-    // A button that is hidden now has its room already.
-    QSize sizeHint() const override {
-        int width = 0;
-        for (const auto* button : findChildren<KeyButton*>()) {
-            width = std::max(width, button->sizeHint().width());
-        }
-        const int height = column_->sizeHint().height();
-        const bool scrolls = isVisible() && this->height() < height;
-        return {width + 2 * margin + (scrolls ? verticalScrollBar()->sizeHint().width() : 0),
-                height};
-    }
-    QSize minimumSizeHint() const override {
-        return {sizeHint().width(), 3 * velcro::ui::touchHeight};
-    }
-
-protected:
-    // Room for the scroll bar comes and goes with it.
-    void resizeEvent(QResizeEvent* event) override {
-        QScrollArea::resizeEvent(event);
-        updateGeometry();
-    }
-
-private:
-    QVBoxLayout* column_;
-};
-
 } // namespace
 
 void ListScreen::makePanel() {
-    options_ = new QFrame(this);
-    options_->setObjectName(u"pnlOptions"_s);
-    auto* whole = new QVBoxLayout(options_);
-    whole->setContentsMargins(0, 0, 0, margin);
-    auto* area = new ButtonArea(options_);
-    panel_ = area->column();
-    whole->addWidget(area, 1);
+    options_ = new ButtonPanel(*this);
     sides_ = new QHBoxLayout;
     sides_->setSpacing(0);
     sides_->addWidget(options_);
     body().addLayout(sides_);
 }
 
-void ListScreen::addHeading(const QString& text) {
-    auto* label = new QLabel(text, this);
-    label->setProperty("role", "heading");
-    label->setContentsMargins(0, panel_->isEmpty() ? 0 : 2 * margin, 0, 0);
-    panel_->addWidget(label);
-}
-
 void ListScreen::addToPanel(const ButtonFacts& facts) {
-    auto* button = makeButton(*this, facts, PlainEnter::StaysWithForm);
-    button->setInPanel(true);
-    panel_->addWidget(button);
+    auto* button = options_->add(facts, PlainEnter::StaysWithForm);
     if (facts.needsRecord && facts.handler) {
         recordButtons_.push_back(button);
     }
@@ -107,27 +38,21 @@ void ListScreen::addToPanel(const ButtonFacts& facts) {
 }
 
 void ListScreen::setButtons(const ListButtons& buttons) {
-    addHeading(u"OPTIONS"_s);
+    options_->addHeading(u"OPTIONS"_s);
     for (const auto& facts : buttons.options) {
         addToPanel(facts);
     }
     if (!buttons.functions.isEmpty()) {
-        addHeading(u"FUNCTIONS"_s);
+        options_->addHeading(u"FUNCTIONS"_s);
     }
     for (const auto& facts : buttons.functions) {
         addToPanel(facts);
     }
-    panel_->addStretch(1);
     // Esc closes what is open on top first.
-    auto* close = makeButton(*this, {.name = buttons.closeName,
-                                     .caption = buttons.closeCaption,
-                                     .handler = [this] { reject(); },
-                                     .cap = u"ESC"_s});
-    close->setInPanel(true);
-    auto* foot = new QHBoxLayout; // in sight also where the buttons above it scroll
-    foot->setContentsMargins(margin, 0, margin, 0);
-    foot->addWidget(close);
-    static_cast<QVBoxLayout*>(options_->layout())->addLayout(foot);
+    options_->addClose({.name = buttons.closeName,
+                        .caption = buttons.closeCaption,
+                        .handler = [this] { reject(); },
+                        .cap = u"ESC"_s});
 }
 
 void ListScreen::makeRight() {

@@ -25,6 +25,7 @@ RecordBar::RecordBar(QWidget& form, RowGrid& grid, QWidget* control)
     , control_(control) {
     lines_ = new QVBoxLayout(this);
     lines_->setContentsMargins(0, 0, 0, 0);
+    lines_->setSpacing(gap / 4);
     row_ = new QHBoxLayout;
     row_->setSpacing(gap);
     lines_->addLayout(row_);
@@ -45,6 +46,9 @@ RecordBar::RecordBar(QWidget& form, RowGrid& grid, QWidget* control)
         steps_.push_back({button, caption, picture});
     }
     row_->addStretch(1);
+    above_ = new QHBoxLayout;
+    above_->setSpacing(gap);
+    lines_->insertLayout(0, above_);
     label_ = new QLabel(this);
     label_->setObjectName(u"lblRowCount"_s);
     row_->addWidget(label_);
@@ -97,23 +101,22 @@ void RecordBar::show(Form form) {
     }
     form_ = form;
     showWords(form == Form::Words);
-    if (form == Form::TwoLines) {
-        lines_->insertWidget(0, label_);
-    } else {
-        row_->insertWidget(row_->indexOf(control_), label_);
-    }
+    auto* line = form == Form::TwoLines ? above_ : row_;
+    line->addWidget(label_, form == Form::TwoLines ? 1 : 0);
+    line->addWidget(control_);
 }
 
 void RecordBar::arrange() {
     show(formFor(width()));
     const bool alone = form_ == Form::TwoLines;
-    label_->setText(alone ? label_->fontMetrics().elidedText(text_, Qt::ElideRight, width())
-                          : text_);
+    label_->setText(
+        alone ? label_->fontMetrics().elidedText(text_, Qt::ElideRight, width() - restWidth())
+              : text_);
     label_->setToolTip(label_->text() == text_ ? QString() : text_);
 }
 
 QSize RecordBar::minimumSizeHint() const {
-    return {widthOfSymbols_ + restWidth(), QWidget::minimumSizeHint().height()};
+    return {widthOfSymbols_, QWidget::minimumSizeHint().height()};
 }
 
 void RecordBar::resizeEvent(QResizeEvent* event) {

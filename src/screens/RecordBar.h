@@ -51,6 +51,7 @@ private:
     Form form_ = Form::Words;
     QBoxLayout* lines_ = nullptr;
     QBoxLayout* row_ = nullptr;
+    QBoxLayout* above_ = nullptr; // the first of two lines
     QLabel* label_ = nullptr;
     QWidget* control_;
     int widthOfWords_ = 0;

@@ -4,15 +4,16 @@
 #include "platform/seat/SystemMenu.h"
 #include "screens/ScreenServices.h"
 #include "screens/SysStatusBar.h"
-#include "ui/Theme.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShowEvent>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+
+using velcro::ui::KeyButton;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -64,16 +65,15 @@ void Screen::resetStatusBar() {
     sfg_ResetStatusBar(*statusBar_, messagePanel);
 }
 
-QToolButton* Screen::newTechHelpButton() {
-    auto* button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("btnTechHelp"));
-    button->setText(QStringLiteral("?"));
-    button->setToolTip(QStringLiteral("Technical Reference"));
-    button->setAccessibleName(QStringLiteral("Technical Reference"));
-    button->setMinimumSize(velcro::ui::touchHeight, velcro::ui::touchHeight);
+KeyButton* Screen::newTechHelpButton() {
+    auto* button = makeButton(*this, {.name = u"btnTechHelp"_s,
+                                      .caption = u"?"_s,
+                                      .handler = [this] { techHelp(); },
+                                      .hint = u"Technical Reference"_s});
+    button->setAccessibleName(u"Technical Reference"_s);
+    button->setRound(true);
     button->setEnabled(bool(gScreenServices.techHelp));
     button->setVisible(!inSystemMenu_);
-    velcro::ui::connectHandler(button, &QToolButton::clicked, this, [this] { techHelp(); });
     return button;
 }
 
@@ -85,7 +85,7 @@ void Screen::showEvent(QShowEvent* event) {
 }
 
 void Screen::hideKeyCaps() {
-    for (auto* button : findChildren<velcro::ui::KeyButton*>()) {
+    for (auto* button : findChildren<KeyButton*>()) {
         if (!button->keyCap().isEmpty()) {
             button->setKeyCap({});
         }

@@ -10,7 +10,6 @@
 #include <QKeySequence>
 #include <QShortcut>
 
-class QToolButton;
 class QVBoxLayout;
 
 class Screen : public QDialog
@@ -37,7 +36,7 @@ protected:
     /// Everything above the status bar goes here.
     QVBoxLayout& body() { return *body_; }
     /// The technical reference, for windows whose title bar cannot hold it.
-    QToolButton* newTechHelpButton();
+    velcro::ui::KeyButton* newTechHelpButton();
 
     /// Takes the pictures of the keys off all buttons; the keys themselves go on working. The other
     /// one does so on seats that are worked by touch alone (till parameter 62).

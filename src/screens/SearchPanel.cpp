@@ -1,14 +1,21 @@
 #include "screens/SearchPanel.h"
 
 #include "ui/Handler.h"
+#include "ui/Theme.h"
 
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
+
 using velcro::ui::connectHandler;
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int roomToType = 120;
+}
 
 SearchPanel::SearchPanel(QWidget* form, const QList<QKeySequence>& alsoKeys)
     : QFrame(form) {
@@ -30,12 +37,37 @@ SearchPanel::SearchPanel(QWidget* form, const QList<QKeySequence>& alsoKeys)
                                      .cap = u"ESC"_s});
     close->setFocusPolicy(Qt::NoFocus); // closing is no leaving
     connectHandler(edSearchText_, &QLineEdit::returnPressed, this, [this] { emit entered(); });
-    auto* row = new QHBoxLayout(this);
-    row->addWidget(label);
-    row->addWidget(edSearchText_, 1);
-    row->addWidget(btnSearch_);
-    row->addWidget(close);
+    lines_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    lines_->setSpacing(2);
+    text_ = new QHBoxLayout;
+    text_->addWidget(label);
+    text_->addWidget(edSearchText_, 1);
+    auto* keyboard = makeKeyboardButton(*form);
+    keyboard->setMaximumWidth(velcro::ui::touchHeight); // its symbol
+    text_->addWidget(keyboard);
+    buttons_ = new QHBoxLayout;
+    buttons_->addWidget(btnSearch_);
+    buttons_->addWidget(close);
+    buttons_->addStretch();
+    lines_->addLayout(text_, 1);
+    lines_->addLayout(buttons_);
     hide();
+}
+
+int SearchPanel::widthOf(const QLayout& row) const {
+    const auto margins = contentsMargins() + lines_->contentsMargins();
+    return row.minimumSize().width() + margins.left() + margins.right();
+}
+
+QSize SearchPanel::minimumSizeHint() const {
+    return {std::max(widthOf(*text_), widthOf(*buttons_)), QFrame::minimumSizeHint().height()};
+}
+
+// In a narrow list the buttons go below the text.
+void SearchPanel::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    const int beside = widthOf(*text_) + buttons_->minimumSize().width() + roomToType;
+    lines_->setDirection(width() < beside ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 QString SearchPanel::text() const {

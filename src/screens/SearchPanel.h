@@ -5,6 +5,7 @@
 
 #include <QFrame>
 
+class QBoxLayout;
 class QLineEdit;
 
 class SearchPanel : public QFrame
@@ -21,6 +22,8 @@ public:
     /// Leaving the text is a signal of its own; without this it is none.
     void watchLeaving();
 
+    QSize minimumSizeHint() const override;
+
 signals:
     void searchAsked();
     void entered(); // Enter in the text
@@ -30,10 +33,15 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void tellLeft();
+    int widthOf(const QLayout& row) const;
 
     QLineEdit* edSearchText_ = nullptr;
     velcro::ui::KeyButton* btnSearch_ = nullptr;
+    QBoxLayout* lines_ = nullptr;
+    QBoxLayout* text_ = nullptr;
+    QBoxLayout* buttons_ = nullptr;
 };

@@ -36,6 +36,12 @@ QSize screenSize() {
     return QApplication::primaryScreen()->geometry().size();
 }
 
+void startKeyboard(const QString& path) {
+    if (!velcro::seat::isKeyboardRunning(path)) {
+        velcro::seat::startProgram(path, {});
+    }
+}
+
 void setKeyCap(QAbstractButton& button, const QIcon& picture, const QString& key, int height) {
     button.setIcon(picture);
     button.setIconSize(velcro::ui::keyCapSize(key, height));
@@ -70,7 +76,7 @@ void sfg_ShowTouchKeyboard() {
     if (keyboard.isEmpty()) {
         sfg_ShowOnScreenKeyboard();
     } else {
-        velcro::seat::startProgram(keyboard, {});
+        startKeyboard(keyboard);
     }
 }
 
@@ -79,7 +85,7 @@ void sfg_ShowOnScreenKeyboard() {
     if (keyboard.isEmpty()) {
         throw VelmaraError(QStringLiteral("On-screen keyboard application not found."));
     }
-    velcro::seat::startProgram(keyboard, {});
+    startKeyboard(keyboard);
 }
 
 void sfg_ImageKeybd16(QAbstractButton& xButton, const QString& xKey) {

@@ -44,8 +44,13 @@ void TfrmCMN901::addSupervisor(Supervisor& supervisor, const QString& xNo, const
         }
     });
     onEnter(supervisor.password, [this, &supervisor, xNo] {
-        if (!supervisor.password->text().trimmed().isEmpty() && ValidateSuper(xNo)) {
+        if (supervisor.password->text().trimmed().isEmpty()) {
+            return;
+        }
+        if (ValidateSuper(xNo)) {
             goOn();
+        } else {
+            goTo(supervisor.password);
         }
     });
 }
@@ -130,7 +135,7 @@ void TfrmCMN901::btnOKClick() {
     xReturn = QStringLiteral("OK");
     for (const auto& xNo : {QStringLiteral("1"), QStringLiteral("2")}) {
         if (!ValidateSuper(xNo)) {
-            supervisor(xNo).code->setFocus();
+            goTo(supervisor(xNo).code);
             return;
         }
     }

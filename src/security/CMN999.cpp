@@ -275,11 +275,11 @@ void TfrmCMN999::btnOKClick() {
     if (!sli_LogIn(edUserCode->text(), edUserPswd->text(), StrToInt(gDBaseRecID), QString(),
                    QString()) &&
         gLoginResult == QLatin1String("1")) {
-        displayError(gErrorMsg);
+        refuse(gErrorMsg, edUserPswd);
         return;
     }
     if (!passwordMayStay()) {
-        edUserCode->setFocus();
+        goTo(edUserCode);
         return;
     }
     finish(QStringLiteral("OK"));

@@ -1,10 +1,12 @@
 #include "security/SignInForm.h"
 
 #include "screens/SysFuncGlobal.h"
+#include "ui/ScreenFit.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -26,8 +28,9 @@ SignInForm::SignInForm(const QString& unit, const QString& caption, int leastWid
     buttons_ = new QHBoxLayout;
     buttons_->setContentsMargins(12, 0, 12, 12);
     buttons_->setSpacing(10);
+    buttons_->addWidget(makeKeyboardButton(*this));
     buttons_->addStretch();
-    body().addWidget(page);
+    body().addWidget(new velcro::ui::ScrollPage(page, this), 1);
     body().addLayout(buttons_);
     // Over the whole program where there is a main form, and on the task bar where there is none.
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -56,7 +59,15 @@ velcro::ui::KeyButton* SignInForm::addButton(const ButtonFacts& facts) {
 
 void SignInForm::refuse(const QString& message, QWidget* focus) {
     displayError(message);
-    focus->setFocus();
+    goTo(focus);
+}
+
+// What is typed next takes the place of what was refused.
+void SignInForm::goTo(QWidget* control) {
+    control->setFocus();
+    if (auto* edit = qobject_cast<QLineEdit*>(control)) {
+        edit->selectAll();
+    }
 }
 
 void SignInForm::finish(const QString& outcome) {
@@ -74,7 +85,7 @@ bool SignInForm::eventFilter(QObject* watched, QEvent* event) {
 
 void SignInForm::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        resize(sizeHint().expandedTo(QSize(leastWidth_, 0)));
+        resize(sizeHint().expandedTo(QSize(leastWidth_, 0)).boundedTo(screen()->availableSize()));
         move(sfg_SetFormLeft(*this, 0), sfg_SetFormTop(*this, 0));
     }
     Screen::showEvent(event);

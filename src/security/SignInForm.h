@@ -40,6 +40,7 @@ protected:
     }
     /// Shows a refusal in the status bar and puts the focus where it can be mended.
     void refuse(const QString& message, QWidget* focus);
+    void goTo(QWidget* control);
     void finish(const QString& outcome);
     void goOn() { focusNextChild(); }
 

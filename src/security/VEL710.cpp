@@ -6,6 +6,7 @@
 #include "security/ReferencePage.h"
 #include "ui/FormBuilder.h"
 #include "ui/Modal.h"
+#include "ui/ScreenFit.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -46,10 +47,9 @@ TfrmVEL710::TfrmVEL710()
     velcro::ui::FormBuilder form(header);
     edFormCode = form.edit(QStringLiteral("edFormCode"), QStringLiteral("Form"),
                            {.width = 10, .readOnly = true});
-    edDescription =
-        form.beside().edit(QStringLiteral("edDescription"), QStringLiteral("Description"),
-                           {.width = 52, .readOnly = true});
-    memNotes = form.memo(QStringLiteral("memNotes"), QStringLiteral("Notes"), 3, 60);
+    edDescription = form.edit(QStringLiteral("edDescription"), QStringLiteral("Description"),
+                              {.width = 52, .readOnly = true});
+    memNotes = form.memo(QStringLiteral("memNotes"), QStringLiteral("Notes"), 3, 52);
     memNotes->setReadOnly(true);
     pages_ = new QTabWidget(this);
     pages_->setObjectName(QStringLiteral("pgReference"));
@@ -66,7 +66,7 @@ TfrmVEL710::TfrmVEL710()
     buttons->addWidget(btnSearch);
     buttons->addStretch();
     buttons->addWidget(btnClose);
-    body().addWidget(header);
+    body().addWidget(new velcro::ui::ScrollPage(header, this));
     body().addWidget(pages_, 1);
     body().addLayout(buttons);
 }

@@ -36,6 +36,7 @@ constexpr int frameWidth = 20; // of an edit, left and right of its letters
 constexpr int arrowWidth = 36;
 constexpr int narrowestEdit = 10; // letters
 constexpr int amountLetters = 14;
+constexpr int narrowestMemo = 24;
 
 /// Corrects what goes into an edit, typed or pasted.
 class Letters : public QValidator
@@ -82,6 +83,8 @@ template <typename Control>
 class Yielding : public Control
 {
 public:
+    using Control::Control;
+
     void setWidths(int narrowest, int wanted) {
         this->setMinimumWidth(std::min(narrowest, wanted));
         this->setMaximumWidth(wanted);
@@ -343,8 +346,8 @@ QComboBox* FormBuilder::combo(const QString& name, const QString& label, const Q
 
 AmountEdit* FormBuilder::amount(const QString& name, const QString& label, int decimals,
                                 bool readOnly) {
-    auto* edit = new AmountEdit(decimals);
-    edit->setFixedWidth(widthOf(*edit, amountLetters));
+    auto* edit = new Yielding<AmountEdit>(decimals);
+    edit->setWidths(widthOf(*edit, narrowestEdit), widthOf(*edit, amountLetters));
     edit->setReadOnly(readOnly);
     if (readOnly) {
         edit->setFocusPolicy(Qt::ClickFocus);
@@ -361,10 +364,10 @@ Toggle* FormBuilder::toggle(const QString& name, const QString& label, const QSt
 }
 
 QPlainTextEdit* FormBuilder::memo(const QString& name, const QString& label, int lines, int width) {
-    auto* memo = new QPlainTextEdit;
+    auto* memo = new Yielding<QPlainTextEdit>;
     memo->setTabChangesFocus(true);
-    memo->setFixedSize(widthOf(*memo, width),
-                       memo->fontMetrics().lineSpacing() * lines + frameWidth);
+    memo->setWidths(widthOf(*memo, narrowestMemo), widthOf(*memo, width));
+    memo->setFixedHeight(memo->fontMetrics().lineSpacing() * lines + frameWidth);
     control(memo, name, label);
     return memo;
 }

@@ -1,14 +1,11 @@
 #include "ui/GridPrinter.h"
 
 #include "ui/GridVisitor.h"
-#include "ui/Handler.h"
-#include "ui/Modal.h"
 #include "ui/RowGrid.h"
 
 #include <QFontDatabase>
 #include <QPageLayout>
 #include <QPainter>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include <algorithm>
@@ -19,6 +16,7 @@ namespace {
 
 constexpr double cellGap = 4; // points between the text of two columns
 constexpr double mmPerInch = 25.4;
+constexpr double pointsPerInch = 72;
 
 /// Fills page after page with what it is told of the grid.
 class Pages : public GridVisitor
@@ -35,6 +33,7 @@ public:
 
     // Columns keep the proportions they have on screen and fill the page.
     void begin(const std::vector<VisibleColumn>& columns, int /*rows*/) override {
+        const double gap = cellGap / pointsPerInch * printer_.resolution();
         double onScreen = 0;
         for (const auto& column : columns) {
             onScreen += column.width;
@@ -42,7 +41,7 @@ public:
         double left = 0;
         for (const auto& column : columns) {
             const double width = page_.width() * column.width / onScreen;
-            columns_.push_back({column.heading, left, width - cellGap,
+            columns_.push_back({column.heading, left, width - gap,
                                 column.isNumeric() ? Qt::AlignRight : Qt::AlignLeft});
             left += width;
         }
@@ -122,17 +121,6 @@ private:
 GridPrinter::GridPrinter(const RowGrid& grid)
     : titleFont(QFontDatabase::systemFont(QFontDatabase::FixedFont))
     , grid_(&grid) {}
-
-void GridPrinter::preview(QWidget* parent) const {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPageOrientation(QPageLayout::Landscape);
-    QPrintPreviewDialog dialog(&printer, parent);
-    dialog.setObjectName(QStringLiteral("GridPreview"));
-    connectHandler(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                   [this](QPrinter* page) { print(*page); });
-    dialog.resize(parent->size().expandedTo(QSize(900, 650)));
-    runModal(dialog);
-}
 
 void GridPrinter::print(QPrinter& printer) const {
     printer.setPageMargins(marginsMm, QPageLayout::Millimeter);

@@ -5,12 +5,7 @@
 #include <QMarginsF>
 #include <QStringList>
 
-#include <vector>
-
-class QPainter;
 class QPrinter;
-class QRectF;
-class QWidget;
 
 namespace velcro::ui {
 
@@ -29,24 +24,8 @@ public:
     double headerHeightMm = 5; // room between title and rows
 
     void print(QPrinter& printer) const;
-    /// Shows the pages before they are printed.
-    void preview(QWidget* parent) const;
 
 private:
-    struct Column
-    {
-        int index;
-        double left;
-        double width;
-    };
-
-    std::vector<Column> placeColumns(double pageWidth) const;
-    double printTitle(QPainter& painter, const QRectF& page, int pageNumber) const;
-    void printHeadings(QPainter& painter, const std::vector<Column>& columns, double top,
-                       double height) const;
-    void printRow(QPainter& painter, const std::vector<Column>& columns, int row, double top,
-                  double height) const;
-
     const RowGrid* grid_;
 };
 

@@ -14,6 +14,7 @@ namespace velcro::ui {
 namespace {
 
 constexpr QSize capSize(46, 26);
+constexpr QSize symbolSize(24, 24);
 
 const char* roleName(KeyButton::Role role) {
     switch (role) {
@@ -60,6 +61,30 @@ void KeyButton::setRole(Role role) {
     }
 }
 
+void KeyButton::setSymbol(const QIcon& symbol) {
+    symbol_ = symbol;
+    setSizePolicy(QSizePolicy::Preferred, sizePolicy().verticalPolicy());
+}
+
+void KeyButton::resizeEvent(QResizeEvent* event) {
+    QPushButton::resizeEvent(event);
+    folded_ = !symbol_.isNull() && width() < sizeHint().width();
+}
+
+void KeyButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    option->text = option->text.simplified();
+    if (folded_) {
+        option->text.clear();
+        option->icon = symbol_;
+        option->iconSize = symbolSize;
+    }
+}
+
+void KeyButton::setRound(bool round) {
+    setProperty("round", round);
+}
+
 void KeyButton::setInPanel(bool inPanel) {
     setProperty("panel", inPanel);
 }
@@ -70,16 +95,15 @@ void KeyButton::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void KeyButton::initStyleOption(QStyleOptionButton* option) const {
-    QPushButton::initStyleOption(option);
-    option->text = option->text.simplified();
-}
-
 QSize KeyButton::sizeHint() const {
     const auto hint = QPushButton::sizeHint();
     const int unused = fontMetrics().horizontalAdvance(text()) -
                        fontMetrics().horizontalAdvance(text().simplified());
     return {hint.width() - unused, std::max(hint.height(), touchHeight)};
+}
+
+QSize KeyButton::minimumSizeHint() const {
+    return symbol_.isNull() ? sizeHint() : QSize(touchHeight, sizeHint().height());
 }
 
 } // namespace velcro::ui

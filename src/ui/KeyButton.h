@@ -25,19 +25,26 @@ public:
     QString keyCap() const { return key_; }
 
     void setRole(Role role);
+    /// Stands in place of caption and cap where room is short.
+    void setSymbol(const QIcon& symbol);
+    /// For a single sign, such as "?".
+    void setRound(bool round);
     /// A button of a vertical panel starts with its cap, so that captions stand in line.
     void setInPanel(bool inPanel);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     /// The blanks that a caption is spaced with count as one.
     void initStyleOption(QStyleOptionButton* option) const override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QString key_;
+    QIcon symbol_;
+    bool folded_ = false; // to its symbol
 };
 
 } // namespace velcro::ui

@@ -175,7 +175,8 @@ QString keyCapName(const QKeySequence& key) {
     return key.toString(QKeySequence::PortableText)
         .toUpper()
         .replace(QLatin1Char('+'), QLatin1Char('-'))
-        .replace(QLatin1String("RETURN"), QLatin1String("ENTER"));
+        .replace(QLatin1String("RETURN"), QLatin1String("ENTER"))
+        .replace(QLatin1String("PGDOWN"), QLatin1String("PGDN"));
 }
 
 QIcon keyCapIcon(const QString& key, KeyCapStyle style) {

@@ -1,6 +1,7 @@
 #include "ui/Modal.h"
 
 #include "ui/Events.h"
+#include "ui/ScreenFit.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -55,6 +56,7 @@ void bringUp(QDialog& dialog) {
         watch(dialog);
     }
     dialog.setModal(true);
+    keepOnScreen(dialog);
     dialog.show();
     pumpUntil([&dialog] { return !dialog.isVisible() || hasKeyboard(dialog); }, untilKeyboard);
 }

@@ -139,6 +139,31 @@ TEST_F(MainMenuTest, keysAndClicksLeadWhereTheMenuSays) {
     EXPECT_EQ(colours(), (std::vector<QRgb>{blue, blue, green, red}));
 }
 
+TEST_F(MainMenuTest, aSubMenuIsWorkedAndLeftByTabAndSpace) {
+    show();
+    const auto walkTo = [this](const char* name) {
+        for (int i = 0; i < 20 && form.focusWidget() != &part(name); ++i) {
+            auto* at = form.focusWidget() != nullptr ? form.focusWidget() : &form;
+            QTest::keyClick(at, Qt::Key_Tab);
+            QApplication::processEvents();
+            EXPECT_TRUE(form.focusWidget() == nullptr || form.focusWidget()->isEnabled());
+        }
+        ASSERT_EQ(form.focusWidget(), &part(name));
+        QTest::keyClick(form.focusWidget(), Qt::Key_Space);
+        QApplication::processEvents();
+    };
+    for (const auto& [button, menu, exit] :
+         {std::tuple("btnMNUReports", "reports ", "btnREPExit"),
+          std::tuple("btnMNUConfiguration", "configuration ", "btnCFGExit")}) {
+        walkTo(button);
+        EXPECT_EQ(state(), menu);
+        walkTo(exit);
+        EXPECT_EQ(state(), "main ");
+        user.expectForm("System Prompt", [&] { user.press(Qt::Key_N); });
+        press(Qt::Key_Escape);
+    }
+}
+
 TEST_F(MainMenuTest, twoMenuKeysWithoutAPauseOpenOneMenu) {
     show();
     velcro::test::queueKey(Qt::Key_F7);

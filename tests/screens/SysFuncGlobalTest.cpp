@@ -3,14 +3,19 @@
 #include "data/DataModules.h"
 #include "data/Errors.h"
 #include "platform/seat/Programs.h"
+#include "screens/Buttons.h"
 #include "screens/ImageLists.h"
 #include "screens/SysStatusBar.h"
 #include "ui/KeyCap.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPainter>
+#include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -190,6 +195,36 @@ TEST_F(SysFuncGlobalTest, keyCapsHaveTheirIndex) {
     }
     sfg_ImageKeybd16(button, "NOKEY");
     EXPECT_TRUE(button.icon().isNull()) << "the old picture is taken away";
+}
+
+TEST_F(SysFuncGlobalTest, aKeyboardThatRunsIsNotStartedAgainAndASeatWithoutOneSaysSo) {
+    QTemporaryDir folder;
+    const QString keyboard = folder.filePath("onboard");
+    ASSERT_TRUE(QFile::copy(QStandardPaths::findExecutable("sleep"), keyboard));
+    velcro::seat::setProgramFinder(
+        [&keyboard](const QString& name) { return name == "onboard" ? keyboard : QString(); });
+    int started = 0;
+    velcro::seat::setProgramStarter([&started](const QString&, const QStringList&) {
+        ++started;
+        return true;
+    });
+    QDialog form;
+    EXPECT_TRUE(makeKeyboardButton(form)->isEnabled());
+    sfg_ShowTouchKeyboard();
+    EXPECT_EQ(started, 1);
+    QProcess running;
+    running.start(keyboard, {"60"});
+    ASSERT_TRUE(running.waitForStarted());
+    sfg_ShowTouchKeyboard();
+    EXPECT_EQ(started, 1);
+    running.kill();
+    running.waitForFinished();
+    sfg_ShowTouchKeyboard();
+    EXPECT_EQ(started, 2);
+    velcro::seat::setProgramFinder([](const QString&) { return QString(); });
+    const auto* button = makeKeyboardButton(form);
+    EXPECT_FALSE(button->isEnabled());
+    EXPECT_EQ(button->toolTip(), "No keyboard for the screen is installed on this seat");
 }
 
 TEST_F(SysFuncGlobalTest, theFirstKeyboardThatTheSeatHas) {

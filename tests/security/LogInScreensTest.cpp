@@ -88,6 +88,23 @@ TEST_F(LogInScreensTest, refusesInTheOrderOfTheFields) {
     EXPECT_EQ(form.xReturn, "CANCEL");
 }
 
+TEST_F(LogInScreensTest, whatIsTypedAfterARefusalTakesTheRefusedTextsPlace) {
+    TfrmCMN999 form;
+    user.workIn(form, [&] {
+        user.typeInto("edUserCode", "KORVAL");
+        user.typeInto("edUserPswd", "X");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(user.message(), "The KORVAL user code is RESERVED");
+        user.type("COUNTER1");
+        EXPECT_EQ(user.sees("edUserCode"), "COUNTER1");
+        user.click("btnOK");
+        EXPECT_EQ(user.message(), "Password INVALID");
+        user.type("COUNTER");
+        user.press(Qt::Key_Return);
+    });
+    EXPECT_EQ(form.xReturn, "OK");
+}
+
 TEST_F(LogInScreensTest, injectionTextsAreRefusedOrHarmless) {
     TfrmCMN999 form;
     user.workIn(form, [&] {

@@ -1,15 +1,20 @@
 #include "support/ScreenChecks.h"
 
 #include "ui/RowGrid.h"
+#include "ui/Theme.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QAccessible>
+#include <QCalendarWidget>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollArea>
 #include <QWidget>
 
@@ -49,8 +54,8 @@ bool textFits(const QWidget& widget) {
         return label->wordWrap() || label->width() >= label->sizeHint().width();
     }
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        return button->width() >= button->sizeHint().width() &&
-               button->height() >= button->sizeHint().height();
+        return button->width() >= button->minimumSizeHint().width() &&
+               button->height() >= button->minimumSizeHint().height();
     }
     if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
         return edit->height() >= edit->sizeHint().height();
@@ -84,11 +89,13 @@ QStringList namelessControls(QWidget& screen) {
 
 namespace {
 
-// What a scroll area holds may be higher than it is, but not wider: nobody scrolls sideways.
+constexpr int smallestWidth = 640; // of a screen on which nobody scrolls sideways
+
+// What a scroll area holds may be higher than it is, but not wider.
 bool liesInParent(const QWidget& widget) {
     const auto* parent = widget.parentWidget();
     if (qobject_cast<const QScrollArea*>(parent->parentWidget()) != nullptr) {
-        return widget.width() <= parent->width();
+        return widget.width() <= parent->width() || widget.window()->width() < smallestWidth;
     }
     return parent->rect().contains(widget.geometry());
 }
@@ -116,6 +123,56 @@ QStringList clippedControls(QWidget& screen) {
         }
     }
     return clipped;
+}
+
+namespace {
+
+bool isTouched(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(&widget) != nullptr;
+}
+
+bool isInCalendar(const QWidget& widget) {
+    const QWidget* parent = widget.parentWidget();
+    while (parent != nullptr && qobject_cast<const QCalendarWidget*>(parent) == nullptr) {
+        parent = parent->parentWidget();
+    }
+    return parent != nullptr;
+}
+
+} // namespace
+
+QStringList smallTargets(QWidget& screen) {
+    using velcro::ui::touchHeight;
+    QStringList small;
+    for (auto* widget : screen.findChildren<QWidget*>()) {
+        const bool isPart = isPartOfControl(*widget) || isInCalendar(*widget) ||
+                            qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
+        if (widget->isVisible() && !isPart && isTouched(*widget) &&
+            (widget->height() < touchHeight || widget->width() < touchHeight)) {
+            small << QStringLiteral("%1: %2x%3 is smaller than a finger")
+                         .arg(described(*widget))
+                         .arg(widget->width())
+                         .arg(widget->height());
+        }
+    }
+    return small;
+}
+
+QStringList offScreen(QWidget& screen) {
+    const QRect room = screen.screen()->availableGeometry();
+    const QRect frame = screen.frameGeometry();
+    if (room.contains(frame)) {
+        return {};
+    }
+    return {QStringLiteral("%1x%2 at %3,%4 does not lie on a screen of %5x%6")
+                .arg(frame.width())
+                .arg(frame.height())
+                .arg(frame.left())
+                .arg(frame.top())
+                .arg(room.width())
+                .arg(room.height())};
 }
 
 void keepPicture(QWidget& screen, const QString& name) {

@@ -1,8 +1,10 @@
 #include "ui/Modal.h"
 
+#include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QShortcut>
 #include <QTest>
 
@@ -42,6 +44,26 @@ TEST(ModalTest, aFormThatAsksFirstIsMetAfterItsQuestionAndTakesKeys) {
     AskingForm form;
     EXPECT_EQ(velcro::ui::runModal(form), QDialog::Accepted);
     EXPECT_EQ(met, (QStringList{"box", "form"}));
+}
+
+TEST(ModalTest, aFormStaysOnTheScreenWithItsFrame) {
+    ScriptedUser user;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const QRect& wanted : {QRect(QPoint(), screen.size() * 2), QRect(QPoint(), screen.size()),
+                                QRect(screen.bottomRight(), QSize(200, 100))}) {
+        QDialog form;
+        form.setWindowTitle("form");
+        form.setGeometry(wanted);
+        user.workIn(form, [&] {
+            EXPECT_EQ(offScreen(form), QStringList());
+            EXPECT_GE(form.width(), std::min(wanted.width(), screen.width() - 10));
+            const QPoint elsewhere = screen.center();
+            form.move(elsewhere);
+            QApplication::processEvents();
+            EXPECT_EQ(form.pos(), elsewhere) << "a user may drag it where he likes";
+            form.reject();
+        });
+    }
 }
 
 TEST(ModalTest, theKeyboardGoesBackToTheWindowBelow) {

@@ -2,6 +2,11 @@
 
 #include "platform/seat/Programs.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
 #include <initializer_list>
 
 namespace velcro::seat {
@@ -27,6 +32,26 @@ QString touchKeyboard() {
 
 QString onScreenKeyboard() {
     return firstOf({"onboard", "florence", "matchbox-keyboard", "xvkbd"});
+}
+
+bool hasKeyboard() {
+    return !touchKeyboard().isEmpty() || !onScreenKeyboard().isEmpty();
+}
+
+// By the first two words of each process: some are scripts that an interpreter runs.
+bool isKeyboardRunning(const QString& path) {
+    const auto name = QFileInfo(path).fileName();
+    const auto processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    return std::any_of(processes.begin(), processes.end(), [&name](const QString& process) {
+        QFile line(QStringLiteral("/proc/%1/cmdline").arg(process));
+        if (!line.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        const auto words = line.readAll().split('\0').mid(0, 2);
+        return std::any_of(words.begin(), words.end(), [&name](const QByteArray& word) {
+            return QFileInfo(QFile::decodeName(word)).fileName() == name;
+        });
+    });
 }
 
 } // namespace velcro::seat

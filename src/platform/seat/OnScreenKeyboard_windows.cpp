@@ -31,4 +31,13 @@ QString onScreenKeyboard() {
         {root + QStringLiteral("/SysNative/osk.exe"), root + QStringLiteral("/System32/osk.exe")});
 }
 
+bool hasKeyboard() {
+    return !touchKeyboard().isEmpty() || !onScreenKeyboard().isEmpty();
+}
+
+// Started again, the system's own keyboards show the one that runs.
+bool isKeyboardRunning(const QString& /*path*/) {
+    return false;
+}
+
 } // namespace velcro::seat

@@ -1,0 +1,25 @@
+// The seat's screen of a program that runs offscreen: as large as it is asked to be.
+#pragma once
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryFile>
+
+#include <stdexcept>
+
+/// The offscreen platform reads its screen from the file, which must outlive the application. Call
+/// before the application is made; without frames of windows when they are not wanted.
+inline void useScreen(QTemporaryFile& file, int width, int height, bool frames) {
+    const QJsonObject screen{
+        {"name", "seat"},   {"x", 0},           {"y", 0},   {"width", width},
+        {"height", height}, {"logicalDpi", 96}, {"dpr", 1}, {"logicalBaseDpi", 96}};
+    const QJsonObject all{{"synchronousWindowSystemEvents", false},
+                          {"windowFrameMargins", frames},
+                          {"screens", QJsonArray{screen}}};
+    if (!file.open() || file.write(QJsonDocument(all).toJson()) < 0 || !file.flush()) {
+        throw std::runtime_error("cannot write the screen's size");
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+}
