@@ -9,6 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 using velcro::ui::ChecklistGrid;
 
 const ChecklistFacts intakeChecklist = {.heading = "Intake Code",
+                                        .nothing = u"There are no intakes to tick. The workshop "
+                                                   "keeps them among its system codes."_s,
                                         .codeType = "I",
                                         .query = &TgData::vMstQuery1,
                                         .table = "CRORepItmIntake",
@@ -17,6 +19,8 @@ const ChecklistFacts intakeChecklist = {.heading = "Intake Code",
                                         .loadRoutine = "LoadIntakesGrid",
                                         .ticksErrorNo = "101A-004"};
 const ChecklistFacts faultChecklist = {.heading = "Fault Code",
+                                       .nothing = u"There are no faults to tick. The workshop "
+                                                  "keeps them among its system codes."_s,
                                        .codeType = "F",
                                        .query = &TgData::vMstQuery2,
                                        .table = "CRORepItmFaults",
@@ -44,7 +48,10 @@ bool ItemChecklist::load(const QString& unit) {
                     },
                     dialogAndFalse(facts_.loadErrorNo, u"SQL Error: CROCodeMaster\r"_s, unit,
                                    facts_.loadRoutine),
-                    [this](const Statement& codes) { grid_.setRows(codes.rows()); });
+                    [this](const Statement& codes) {
+                        grid_.setRows(codes.rows());
+                        grid_.setEmptyText(codes.IsEmpty() ? facts_.nothing : QString());
+                    });
 }
 
 bool ItemChecklist::tickStored(const ItemKey& item, const QString& unit) {

@@ -10,6 +10,7 @@
 struct ChecklistFacts
 {
     const char* heading;      // of the column of codes
+    QString nothing;          // said where the workshop has no codes
     const char* codeType;     // of CROCodeMaster
     Statement TgData::*query; // both reads go through it
     const char* table;        // one row for each code that is ticked

@@ -3,6 +3,7 @@
 #include "ui/Handler.h"
 
 #include <QHash>
+#include <QPainter>
 #include <QScopeGuard>
 
 namespace velcro::ui {
@@ -69,6 +70,22 @@ std::vector<ChecklistGrid::Entry> ChecklistGrid::ticked() {
         }
     }
     return entries;
+}
+
+void ChecklistGrid::setEmptyText(const QString& text) {
+    emptyText_ = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+void ChecklistGrid::paintEvent(QPaintEvent* event) {
+    RowGrid::paintEvent(event);
+    if (rowModel().rowCount() == 0 && !emptyText_.isEmpty()) {
+        constexpr int margin = 24;
+        QPainter(viewport())
+            .drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                      Qt::AlignHCenter | Qt::TextWordWrap, emptyText_);
+    }
 }
 
 } // namespace velcro::ui

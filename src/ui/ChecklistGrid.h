@@ -32,17 +32,24 @@ public:
     /// The rows that are ticked, in the order of the list, with what is being typed into a note.
     std::vector<Entry> ticked();
 
+    /// What stands in the list while it has no rows; blank: nothing.
+    void setEmptyText(const QString& text);
+
 signals:
     /// How many rows are ticked now.
     void ticksChanged(int count);
     /// A tick or a note is another than before.
     void edited();
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     enum Column { Tick, Code, Description, Note };
 
     void countTicks();
 
+    QString emptyText_;
     int count_ = 0;
     bool ticking_ = false;
 };

@@ -352,6 +352,13 @@ TEST_F(ItemsTest, theScreensFitEverySeat) {
                         EXPECT_EQ(screen->size(), size) << name.toStdString();
                         EXPECT_EQ(clippedControls(*screen).join("\n").toStdString(), "")
                             << name.toStdString();
+                        if (pager != nullptr && page > 0) {
+                            const auto* list =
+                                pager->currentWidget()->findChild<velcro::ui::ChecklistGrid*>();
+                            EXPECT_EQ(list->accessibleDescription().startsWith("There are no "),
+                                      empty)
+                                << name.toStdString();
+                        }
                         keepPicture(*screen, name);
                     }
                     user.press(Qt::Key_Escape);
