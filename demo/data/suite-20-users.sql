@@ -14,7 +14,7 @@ INSERT INTO SYSUserGroup ([CO], [UserGroup], [GroupDesc], [GroupType], [AllowVie
 GO
 INSERT INTO SYSUser ([UserCode], [UserPswd], [UserName], [Status], [DefCO], [DefBranch], [PswdDate], [UserID], [BioID], [UserGroup], [Supervisor], [SuperCardNo],
                      [AllowViewCost], [AllowViewProfit], [ProfitCalcCost], [AllowCash], [DefSalesrep], [DefAccount], [DefTillNo], [DefWH], [DefaultPrinter], [UseSession], [EMail], [CellNo]) VALUES
-    ('COUNTER1', 'COUNTER',  'Mirela Dostavan',                  'A', '01', '100', '$(TODAY)',       1, 0,  'CNTR',  'N', '',     'N', 'N', 'L', 'Y', 'R01', '', '01', 'MAIN', '',              'N', 'counter1@brindavel.example', '082-555-0101'),
+    ('COUNTER1', 'COUNTER',  'Mirela Dostavan',                  'A', '01', '100', '$(TODAY)',       1, 1,  'CNTR',  'N', '',     'N', 'N', 'L', 'Y', 'R01', '', '01', 'MAIN', '',              'N', 'counter1@brindavel.example', '082-555-0101'),
     ('COUNTER2', 'COUNTER2', N'Jörund Ekvåll',                   'A', '01', '101', '$(TODAY)',       2, 0,  'CNTR',  'N', '',     'N', 'N', 'L', 'Y', 'R02', '', '',   'MAIN', '',              'N', 'counter2@brindavel.example', '082-555-0102'),
     ('COUNTER3', 'COUNTER3', 'Tamsin Orrelby-Vandermoor',        'A', '01', '101', '$(TODAY)',       3, 0,  'CNTR',  'N', '',     'N', 'N', 'L', 'Y', 'R02', '', '02', 'MAIN', 'Slip printer',  'Y', 'counter3@brindavel.example', '082-555-0103'),
     ('TECH1',    'TECH1',    'Kasimir Thole',                    'A', '01', '100', '$(TODAY)',       4, 0,  'TECH',  'N', '',     'N', 'N', 'L', 'N', '',    '', '',   'SPARE', '',             'N', '',                           '082-555-0104'),
@@ -45,4 +45,15 @@ INSERT INTO SYSUserComp ([UserCode], [CO], [Branch], [ModCode]) VALUES
     ('BOTHCO',   '01', '100', ''), ('BOTHCO',   '01', '101', ''), ('BOTHCO',  '01', '102', ''), ('BOTHCO', '02', '201', ''), ('BOTHCO', '03', '300', ''),
     ('OTHERCO',  '02', '201', ''),
     ('KORVAL',   '01', '100', ''), ('KORVAL',   '02', '201', ''), ('KORVAL',  '03', '300', '');
+GO
+-- Fingers of the simulated reader, for both families of readers.
+INSERT INTO SYSUserBiometrics ([UserCode], [FPDescription], [FPMask], [FPData]) VALUES
+    ('COUNTER1', 'Right index', 2, 'SIM:COUNTER1RIGHTINDEX'),
+    ('COUNTER1', 'Left thumb',  6, 'SIM:COUNTER1LEFTTHUMB'),
+    ('MANAGER',  'Right index', 2, 'SIM:MANAGERRIGHTINDEX');
+GO
+INSERT INTO SYSBiometricDetl ([BioID], [FPMask], [FPDescription], [FPData]) VALUES
+    (1, 2, 'Right index', CAST('SIM:COUNTER1RIGHTINDEX' AS varbinary(max))),
+    (1, 6, 'Left thumb',  CAST('SIM:COUNTER1LEFTTHUMB'  AS varbinary(max))),
+    (7, 2, 'Right index', CAST('SIM:MANAGERRIGHTINDEX'  AS varbinary(max)));
 GO

@@ -4,10 +4,16 @@
 #include "application/CMN010.h"
 #include "application/CMN012.h"
 #include "data/Session.h"
+#include "platform/fingerprint/SimulatedReader.h"
+#include "security/SysLogInForms.h"
+#include "support/FingerPicture.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include <utility>
+
+using velcro::fingerprint::SimulatedReader;
 
 namespace {
 
@@ -74,6 +80,32 @@ void addNotices(Tour& tour, TfrmMAIN000& menu) {
                               [&tour] { tour.press(Qt::Key_Escape); });
                   emit menu.ExeIdle->idle();
               });
+}
+
+namespace {
+
+void signInByFinger(Tour& tour, const QString& name, QString (*screen)()) {
+    tour.expect(gEXETitle, name, [&tour, name] {
+        const auto lay = [](const QString& finger, unsigned picture) {
+            SimulatedReader::touch(finger, velcro::test::fingerPicture(picture, 0));
+            QApplication::processEvents();
+        };
+        lay(QStringLiteral("NOBODYSTHUMB"), 1);
+        tour.picture(name + QStringLiteral("-unknown"));
+        lay(QStringLiteral("COUNTER1RIGHTINDEX"), 2);
+    });
+    tour.check(screen() == QStringLiteral("OK"), QStringLiteral("the finger signs its user in"));
+}
+
+} // namespace
+
+void addFingers(Tour& tour) {
+    tour.then(QStringLiteral("The seat gets a fingerprint reader: signing in by finger."), [&tour] {
+        const QString before = std::exchange(gBDDeviceName, QStringLiteral("SIMULATED"));
+        signInByFinger(tour, QStringLiteral("finger-digitalpersona"), slif_DP_Biometric_Login_Form);
+        signInByFinger(tour, QStringLiteral("finger-zkteco"), slif_ZKT_Biometric_Login_Form);
+        gBDDeviceName = before;
+    });
 }
 
 void addExit(Tour& tour) {

@@ -19,5 +19,7 @@ void addProcesses(Tour& tour);
 void addImages(Tour& tour);
 void addDialogs(Tour& tour);
 void addNotices(Tour& tour, TfrmMAIN000& menu);
+/// Signing in again, by finger, on the screens of both families of readers.
+void addFingers(Tour& tour);
 /// The last steps: the program ends.
 void addExit(Tour& tour);

@@ -37,6 +37,7 @@ int walk(int argc, char** argv) {
     addImages(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());
+    addFingers(tour);
     addExit(tour);
     QObject::connect(&program.mainForm(), &TfrmMAIN000::menuIsLive, &application,
                      [&] { tour.start(program.mainForm()); });

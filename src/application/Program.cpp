@@ -6,9 +6,11 @@
 #include "application/StartUp.h"
 #include "application/VersionCheck.h"
 #include "data/DataModules.h"
+#include "data/Session.h"
 #include "data/SysDataModel.h"
 #include "platform/camera/SeatCamera.h"
 #include "platform/camera/SimulatedCamera.h"
+#include "platform/fingerprint/SimulatedReader.h"
 #include "repairs/CRO100.h"
 #include "reports/ReportFunctions.h"
 #include "screens/ImageLists.h"
@@ -51,6 +53,17 @@ std::unique_ptr<QDialog> make(QWidget* parent) {
     return std::make_unique<Screen>(parent);
 }
 
+// "SIMULATED", with or without ":" and a file, stands for a reader to try things out with.
+std::unique_ptr<velcro::fingerprint::FingerprintReader>
+seatsReader(velcro::fingerprint::Family family) {
+    static const QString simulated = QStringLiteral("SIMULATED");
+    if (gBDDeviceName.startsWith(simulated)) {
+        return std::make_unique<velcro::fingerprint::SimulatedReader>(
+            gBDDeviceName.mid(simulated.size() + 1));
+    }
+    return velcro::fingerprint::pluggedReader(family);
+}
+
 } // namespace
 
 Program::Program(const QStringList& arguments)
@@ -64,6 +77,7 @@ Program::Program(const QStringList& arguments)
     fillImageLists(*sData);
     registerReportFunctions();
     velcro::camera::makeCamera = cameraMaker();
+    velcro::fingerprint::readerFactory = seatsReader;
     gScreenServices.techHelp = sfvel_TechHelp;
     gMenuScreens = {
         .repairOrders = make<TfrmCRO100>,

@@ -2,17 +2,11 @@
 
 #include "data/DataUCMN.h"
 #include "data/DataUTIL.h"
-#include "data/DateTimeText.h"
 #include "data/Errors.h"
-#include "data/Prompts.h"
-#include "data/SessionFile.h"
 #include "data/StatementText.h"
 #include "data/TextHelpers.h"
 #include "schema/LiveSweep.h"
 #include "schema/SysTillDBMods.h"
-#include "screens/Combos.h"
-#include "screens/SysFuncGlobal.h"
-#include "security/CMN999A.h"
 #include "security/CMN999E.h"
 #include "security/LogInPicture.h"
 #include "security/LogInRead.h"
@@ -33,36 +27,6 @@ const QString reservedUser = QStringLiteral("KORVAL");
 
 constexpr int pictureHeight = 150;
 
-QStringList offeredDatabases() {
-    QStringList lines{
-        "SELECT * FROM vcSettings WITH (NOLOCK)",
-        " WHERE [Suite] = " + QuotedStr(gSuite),
-    };
-    if (!gSvrCatCode.trimmed().isEmpty()) {
-        lines << "   AND [SvrCatCode] = " + QuotedStr(gSvrCatCode);
-    }
-    if (!gSvrCatString.trimmed().isEmpty()) {
-        lines << "   AND [SvrCatCode] IN (" + gSvrCatString + ")";
-    }
-    return lines << " ORDER BY [DisplaySeq] ";
-}
-
-// Resets the busy cursor on every way out but the one that leaves it.
-class BusyCursor
-{
-public:
-    BusyCursor() { sfg_SetCursor(QStringLiteral("BUSY")); }
-    ~BusyCursor() {
-        if (!keep) {
-            sfg_SetCursor(QStringLiteral("RESET"));
-        }
-    }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-
-    bool keep = false;
-};
-
 // The version is recorded whatever became of the statements: what is missing waits for the next one.
 void sweepTill() {
     const velcro::schema::LiveSweep live(velcro::ui::pumpPaint);
@@ -73,11 +37,10 @@ void sweepTill() {
 } // namespace
 
 TfrmCMN999::TfrmCMN999()
-    : SignInForm(QStringLiteral("CMN999"), gEXETitle, 960) {
+    : LogInForm(QStringLiteral("CMN999")) {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     makePictures();
-    cmbDatabase =
-        form().combo(QStringLiteral("cmbDatabase"), QStringLiteral("Select Company"), {}, 32);
+    addDatabases();
     addPickButton();
     edUserCode = addCode(QStringLiteral("edUserCode"), QStringLiteral("User Code"));
     edUserPswd = addPassword(QStringLiteral("edUserPswd"), QStringLiteral("Password"));
@@ -89,7 +52,7 @@ TfrmCMN999::TfrmCMN999()
             label->installEventFilter(this);
         }
     }
-    StatusBar1().addPanel(velcro::ui::psHTML, QStringLiteral("Version : ") + gVersion);
+    addVersion();
 }
 
 void TfrmCMN999::makePictures() {
@@ -104,7 +67,7 @@ void TfrmCMN999::makePictures() {
 }
 
 void TfrmCMN999::resizeEvent(QResizeEvent* event) {
-    SignInForm::resizeEvent(event);
+    LogInForm::resizeEvent(event);
     ImgLogInLogo->setGeometry(QRect(0, 0, width(), pictureHeight).adjusted(24, 24, -24, -24));
 }
 
@@ -134,47 +97,23 @@ bool TfrmCMN999::eventFilter(QObject* watched, QEvent* event) {
     if (watched == companyLabel_ && event->type() == QEvent::MouseButtonRelease) {
         velcro::ui::guarded([this] { acSelectDB(); });
     }
-    return SignInForm::eventFilter(watched, event);
+    return LogInForm::eventFilter(watched, event);
 }
 
 void TfrmCMN999::FormShow() {
     gTillDBVersion = requiredTillDBVersion;
     gMinVelDBVersion = requiredTillDBVersion;
-    setWindowTitle(gEXETitle);
-    StatusBar1().setPanelText(1, gEXETitle);
-    xReturn = QStringLiteral("START");
-    resetStatusBar();
+    begin();
     LoadSettings();
     edUserCode->setFocus();
 }
 
 bool TfrmCMN999::LoadSettings() {
-    if (!readRows(cData->vcQuery1, offeredDatabases(), raised(),
-                  [this](Statement& rows) { return fillDatabases(rows); })) {
-        sfg_ErrorDlg(QStringLiteral("900002"),
-                     QStringLiteral("There are NO Company/Branches Loaded on the System"),
-                     unitName(), QStringLiteral("LoadSettings"));
+    if (!loadDatabases(Offer::CategoriesOfSeat)) {
         return false;
     }
-    defDisplayName_ = sfg_ReadSession_INIFile(QStringLiteral("DBDisplayName"));
-    selectDatabase(defDisplayName_);
     Load_WhiteLabel_Images();
     return true;
-}
-
-bool TfrmCMN999::fillDatabases(Statement& rows) {
-    if (rows.IsEmpty()) {
-        return false;
-    }
-    cmbDatabase->clear();
-    for (; !rows.Eof(); rows.Next()) {
-        cmbDatabase->addItem(rows.FieldByName("DisplayName").AsString());
-    }
-    return true;
-}
-
-void TfrmCMN999::selectDatabase(const QString& xDisplayName) {
-    cmbDatabase->setCurrentIndex(qMax(0, sfg_FindComboIndex(xDisplayName, *cmbDatabase, false)));
 }
 
 // Img02 wins over Img01: both stand for the background. What is no picture leaves the form's own.
@@ -183,7 +122,7 @@ bool TfrmCMN999::Load_WhiteLabel_Images() {
                     {
                         "SELECT [Img01], [Img02] ",
                         "  FROM VCSettings WITH (NOLOCK) ",
-                        " WHERE [DisplayName] = " + QuotedStr(defDisplayName_),
+                        " WHERE [DisplayName] = " + QuotedStr(lastDatabase()),
                     },
                     dialogAndFalse("999999", sqlErrorOnTable("VCSettings"), unitName(),
                                    "Load_WhiteLabel_Images"),
@@ -248,20 +187,6 @@ bool TfrmCMN999::tillDatabaseReady() {
     return true;
 }
 
-// The password is still good on its expiry date.
-bool TfrmCMN999::passwordHasExpired() const {
-    return gAllowPswdExp == QLatin1String("Y") &&
-           dateText(StrToDate(gPswdDate).addDays(gPswdExpDays)) < sfg_Date(0);
-}
-
-// Two steps: whoever has both the default password and one that has expired chooses twice.
-bool TfrmCMN999::passwordMayStay() {
-    if (edUserPswd->text().trimmed() == defaultPassword && !ChangePswd()) {
-        return false;
-    }
-    return !passwordHasExpired() || ChangePswd();
-}
-
 void TfrmCMN999::btnOKClick() {
     BusyCursor busy;
     resetStatusBar();
@@ -278,7 +203,7 @@ void TfrmCMN999::btnOKClick() {
         refuse(gErrorMsg, edUserPswd);
         return;
     }
-    if (!passwordMayStay()) {
+    if (!passwordMayStay(edUserPswd->text(), [this] { return ChangePswd(); })) {
         goTo(edUserCode);
         return;
     }
@@ -286,7 +211,5 @@ void TfrmCMN999::btnOKClick() {
 }
 
 bool TfrmCMN999::ChangePswd() {
-    TfrmCMN999A form(edUserCode->text());
-    velcro::ui::runModal(form);
-    return form.xReturn == QLatin1String("OK");
+    return changePassword(edUserCode->text());
 }

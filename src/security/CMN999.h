@@ -1,14 +1,12 @@
 // The log-in screen: database, user code and password, and what must happen before the menu opens.
 #pragma once
 
-#include "security/SignInForm.h"
+#include "security/LogInForm.h"
 
-class Statement;
-class QComboBox;
 class QLabel;
 class LogInPicture;
 
-class TfrmCMN999 : public SignInForm
+class TfrmCMN999 : public LogInForm
 {
     Q_OBJECT
 
@@ -17,7 +15,6 @@ public:
 
     /// Offers the databases of the suite (vcSettings) and selects the one of the last session.
     bool LoadSettings();
-    bool fillDatabases(Statement& rows);
     /// The forced change of the password; false when it was turned down.
     bool ChangePswd();
     /// The pictures that vcSettings holds for the remembered database; false without its row.
@@ -40,12 +37,7 @@ private:
     void edUserPswdEnter();
     bool entriesAccepted();
     bool tillDatabaseReady();
-    bool passwordHasExpired() const;
-    bool passwordMayStay();
-    void selectDatabase(const QString& xDisplayName);
 
-    QString defDisplayName_; // of the last session
-    QComboBox* cmbDatabase = nullptr;
     QLineEdit* edUserCode = nullptr;
     QLineEdit* edUserPswd = nullptr;
     QLabel* companyLabel_ = nullptr;

@@ -24,7 +24,6 @@ namespace {
 // What the caller asked for, and what the database row and the user's row say of company and
 // branch.
 QString sli_UserCode, sli_UserPswd;
-int sli_DBaseRecID = 0;
 QString sli_UDefCO, sli_UDefBranch;
 QString sli_DBDefCO, sli_DBDefBranch, sli_DBDefHQBranch, sli_DBDisplayName;
 

@@ -13,6 +13,9 @@ bool sli_LogIn(const QString& xUserCode, const QString& xUserPswd, int xDBaseRec
 /// there is none.
 bool sli_VerifyDatabase(const QString& xDBDisplayName);
 
+/// RecID of the vcSettings row that sli_DBConnect connects.
+inline int sli_DBaseRecID = 0;
+
 // The steps of sli_LogIn, in its order. Each that returns false leaves its reason in gErrorMsg.
 bool sli_DBConnect();
 bool sli_VerifyUser();

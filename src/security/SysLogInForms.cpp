@@ -3,11 +3,21 @@
 #include "data/DayEnd.h"
 #include "data/Session.h"
 #include "security/CMN999.h"
+#include "security/CMN999C.h"
+#include "security/CMN999D.h"
 #include "ui/Modal.h"
 
 namespace {
 
 const QString ok = QStringLiteral("OK");
+
+template <typename Form>
+QString outcomeOf() {
+    Form form;
+    form.setWindowTitle(QStringLiteral("Log-In : ") + gEXETitle);
+    velcro::ui::runModal(form);
+    return form.xReturn;
+}
 
 QString biometricLogIn() {
     if (gBDDeviceCode == QLatin1String("01")) {
@@ -36,18 +46,13 @@ bool slif_Show_LogInForm() {
 }
 
 QString slif_Standard_Login_Form() {
-    TfrmCMN999 form;
-    form.setWindowTitle(QStringLiteral("Log-In : ") + gEXETitle);
-    velcro::ui::runModal(form);
-    return form.xReturn;
+    return outcomeOf<TfrmCMN999>();
 }
 
-// The screens of the two readers are not there yet: a seat that has one signs in by the standard
-// screen.
 QString slif_DP_Biometric_Login_Form() {
-    return QStringLiteral("CANCEL");
+    return outcomeOf<TfrmCMN999C>();
 }
 
 QString slif_ZKT_Biometric_Login_Form() {
-    return QStringLiteral("CANCEL");
+    return outcomeOf<TfrmCMN999D>();
 }

@@ -1,0 +1,36 @@
+// libfprint's reader without a device: pictures of fingers go to it through a socket.
+#pragma once
+
+#include "support/TempFolder.h"
+
+#include <QByteArray>
+#include <QImage>
+
+namespace velcro::test {
+
+/// While it lives, programs that are started find this reader.
+class VirtualFingerReader
+{
+public:
+    VirtualFingerReader();
+    ~VirtualFingerReader();
+    VirtualFingerReader(const VirtualFingerReader&) = delete;
+    VirtualFingerReader& operator=(const VirtualFingerReader&) = delete;
+
+    /// Lays a finger on; the program that watches the reader has to be there.
+    void lay(const QImage& picture);
+    /// Takes it away from the seat.
+    void unplug();
+
+    /// The template that velcro-enrol makes of five impressions of a finger. Throws when it fails.
+    QByteArray enrol(unsigned finger);
+
+private:
+    void connectTo();
+    void send(int first, int second, const QByteArray& bytes = {});
+
+    TempFolder folder_;
+    int socket_ = -1;
+};
+
+} // namespace velcro::test
