@@ -1,13 +1,8 @@
 // Rows that are edited and filtered in memory, and what a visitor is told of them.
-#include "ui/GridPrinter.h"
 #include "ui/GridVisitor.h"
 #include "ui/RowGrid.h"
 
 #include <QHeaderView>
-#include <QPrinter>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace velcro;
@@ -155,40 +150,4 @@ TEST_F(EditableGridTest, AFilterLeavesRowsInTheirOrderAndTheUserOnHis) {
     grid.filter({});
     EXPECT_EQ(codes().size(), 4);
     EXPECT_TRUE(grid.currentResultRow());
-}
-
-TEST_F(EditableGridTest, PrintedPagesHoldEveryRowOnce) {
-    sql::RowSetBuilder builder({{"Code", sql::ColumnType::Text}});
-    for (int i = 0; i < 300; ++i) {
-        builder.addBytes("row " + std::to_string(i));
-        builder.endRow();
-    }
-    RowGrid list;
-    list.setColumns({{"Code"}});
-    for (const bool withRows : {true, false}) {
-        if (withRows) {
-            list.setRows(builder.take());
-        } else {
-            list.filter("none such");
-        }
-        GridPrinter printer(list);
-        printer.leftTitle = QStringList{"Title"};
-        printer.rightTitle = QStringList{"Page : [Page #]"};
-        QTemporaryDir folder;
-        QPrinter paper;
-        paper.setOutputFormat(QPrinter::PdfFormat);
-        paper.setOutputFileName(folder.filePath("list.pdf"));
-        printer.print(paper);
-        QProcess reader;
-        reader.start("pdftotext", {"-layout", paper.outputFileName(), "-"});
-        ASSERT_TRUE(reader.waitForFinished());
-        const QString text = reader.readAllStandardOutput();
-        for (int i = 0; withRows && i < 300; ++i) {
-            EXPECT_EQ(text.count(QRegularExpression(QString("row %1\\b").arg(i))), 1) << i;
-        }
-        const auto pages = text.count("Title");
-        EXPECT_EQ(text.count("Code"), pages) << "each page has title and headings";
-        EXPECT_TRUE(text.contains(QString("Page : %1").arg(pages)));
-        EXPECT_EQ(pages > 1, withRows);
-    }
 }
