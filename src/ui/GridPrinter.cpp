@@ -4,8 +4,10 @@
 #include "ui/Progress.h"
 #include "ui/RowGrid.h"
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QPageLayout>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPrinter>
 
@@ -127,21 +129,29 @@ public:
     }
 
     void begin(const std::vector<VisibleColumn>& /*columns*/, int rows) override {
-        progress_ = std::make_unique<Progress>(QStringLiteral("Print"), rows);
+        // A preview is made while its window paints, where nothing else may come up.
+        if (painter_.paintEngine()->type() != QPaintEngine::Picture) {
+            progress_ = std::make_unique<Progress>(QStringLiteral("Print"), rows);
+        }
         beginPage();
     }
     bool beginRow(int row) override {
         writeRow();
         std::ranges::fill(row_, QString());
         pending_ = true;
-        return row % stepRows != 0 || progress_->step(row);
+        return !progress_ || row % stepRows != 0 || progress_->step(row);
     }
     void cell(int position, const GridCell& cell) override { row_[position] = cell.text(); }
 
     /// After the last row. False when the user has cancelled.
     bool end() {
         writeRow();
-        return !progress_->isCancelled();
+        const bool whole = !progress_ || !progress_->isCancelled();
+        if (!whole) {
+            printer_.abort();
+        }
+        painter_.end();
+        return whole;
     }
 
 private:
@@ -256,8 +266,8 @@ void GridPrinter::print(QPrinter& printer) const {
     widths.share(pageWidth(printer));
     Pages pages(*this, printer, std::move(widths.columns));
     visitGrid(*grid_, pages);
-    if (!pages.end()) {
-        printer.abort();
+    if (!pages.end() && !printer.outputFileName().isEmpty()) {
+        QFile::remove(printer.outputFileName());
     }
 }
 

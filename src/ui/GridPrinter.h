@@ -23,6 +23,8 @@ public:
     QMarginsF marginsMm{10, 20, 10, 10};
     double headerHeightMm = 5; // room between title and rows
 
+    /// Long work shows its progress and can be cancelled, which leaves no file; a preview is made
+    /// without.
     void print(QPrinter& printer) const;
 
 private:

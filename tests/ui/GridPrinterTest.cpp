@@ -1,8 +1,10 @@
 // A grid on paper, read back from the file that it is printed to.
 #include "ui/GridPrinter.h"
 
+#include "support/Canceller.h"
 #include "ui/RowGrid.h"
 
+#include <QFileInfo>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -103,4 +105,21 @@ TEST_F(GridPrinterTest, LongTextsGiveWayToDatesNumbersAndShortTexts) {
     }
     EXPECT_FALSE(lines.filter("Wilhelmina").join(' ').contains("Daughters")) << "in two lines";
     EXPECT_EQ(text.count(QChar(0x2026)), 1) << "only the text of 400 letters ends in dots";
+}
+
+TEST_F(GridPrinterTest, ACancelledOneLeavesNoFile) {
+    grid.setColumns({{"Code"}});
+    sql::RowSetBuilder builder({{"Code", sql::ColumnType::Text}});
+    for (int i = 0; i < 100'000; ++i) {
+        builder.addBytes("row " + std::to_string(i));
+        builder.endRow();
+    }
+    grid.setRows(builder.take());
+    QTemporaryDir folder;
+    QPrinter paper;
+    paper.setOutputFormat(QPrinter::PdfFormat);
+    paper.setOutputFileName(folder.filePath("list.pdf"));
+    const test::Canceller canceller;
+    GridPrinter(grid).print(paper);
+    EXPECT_FALSE(QFileInfo::exists(paper.outputFileName()));
 }

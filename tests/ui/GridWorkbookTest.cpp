@@ -1,17 +1,15 @@
 // A workbook is read back by another program's library.
 #include "ui/GridWorkbook.h"
 
+#include "support/Canceller.h"
 #include "support/FullDisk.h"
 #include "support/TempFolder.h"
 #include "ui/GridLayout.h"
 #include "ui/RowGrid.h"
 
-#include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
-#include <QPushButton>
-#include <QTimer>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -119,15 +117,7 @@ TEST_F(GridWorkbookTest, AFolderThatIsMissingOrFullSaysSoAndKeepsNothing) {
 // The form of the progress comes up after half a second only, so the work must be longer than that.
 TEST_F(GridWorkbookTest, ACancelledOneKeepsNothing) {
     fill(100000);
-    QTimer presser;
-    QObject::connect(&presser, &QTimer::timeout, [] {
-        for (auto* form : QApplication::topLevelWidgets()) {
-            if (auto* cancel = form->isVisible() ? form->findChild<QPushButton*>() : nullptr) {
-                cancel->click();
-            }
-        }
-    });
-    presser.start(20);
+    const test::Canceller canceller;
     EXPECT_FALSE(ui::writeWorkbook(grid, "Cancelled", file));
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
