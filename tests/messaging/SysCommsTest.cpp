@@ -70,7 +70,9 @@ TEST_F(SysCommsTest, aNumberThatIsNoneGoesNowhere) {
 }
 
 TEST_F(SysCommsTest, theGatewayIsAskedByTheseBytes) {
-    const RawServer server([](int) { return Reply{RawServer::whole("{\"status\":\"1\"}")}; });
+    const RawServer server([](int) {
+        return Reply{RawServer::whole("{\"status\":\"1\"}"), Reply::Wait};
+    });
     use(server.address());
     int paints = 0;
     gLetScreensPaint = [&paints] { ++paints; };

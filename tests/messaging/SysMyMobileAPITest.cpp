@@ -88,7 +88,8 @@ const BadAnswer badAnswers[] = {
 
 TEST_F(SysMyMobileAPITest, whatGoesOutIsTheSameToTheLastByte) {
     const RawServer server([](int n) {
-        return Reply{n == 1 ? RawServer::whole(goodKey) : RawServer::whole("{}", "202 Accepted")};
+        return Reply{n == 1 ? RawServer::whole(goodKey) : RawServer::whole("{}", "202 Accepted"),
+                     Reply::Wait};
     });
     use(server.address());
     ASSERT_TRUE(api.Authenticate()) << failure();

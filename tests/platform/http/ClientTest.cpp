@@ -44,7 +44,7 @@ const std::string tooLarge = "other: The answer is larger than 16777216 bytes.";
 } // namespace
 
 TEST(ClientTest, sendsWhatItWasGivenByteForByte) {
-    const RawServer server([](int) { return Reply{RawServer::whole("ok")}; });
+    const RawServer server([](int) { return Reply{RawServer::whole("ok"), Reply::Wait}; });
     Client client;
     EXPECT_EQ(client.send(get(server.address() + "v3/it?to=1&text=a b")).body, "ok");
     client.send({.method = "POST",
