@@ -4,14 +4,7 @@
 #include "platform/sqlserver/Waiting.h"
 #include "support/TdsServer.h"
 #include "support/TypedAhead.h"
-
-#include <QApplication>
-#include <QFrame>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-#include <QVBoxLayout>
-#include <gtest/gtest.h>
+#include "support/WaitingScreen.h"
 
 #include <chrono>
 #include <thread>
@@ -32,42 +25,19 @@ TdsReply answer(const std::string& batch) {
     return TdsReply().column("A").row("1").done(1);
 }
 
-/// A screen of a seat whose server takes its time. Types when the wait is told.
-class DatabaseWaitTest : public testing::Test, public QObject
+class DatabaseWaitTest : public WaitingScreen
 {
 protected:
     DatabaseWaitTest() {
-        (new QVBoxLayout(&screen))->addWidget(edit);
-        screen.resize(800, 600);
-        screen.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&screen));
         connection.setConnectString(sfg_BuildUNIConnectionStr(
             QString::fromStdString(server.address()), "SUITE", "till", "secret", {}, {}));
         connection.Connect();
         watchDatabaseWaits();
-        qApp->installEventFilter(this);
     }
-    ~DatabaseWaitTest() override {
-        qApp->removeEventFilter(this);
-        velcro::sql::setWaitHook({});
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched->objectName() == "WaitNotice" && event->type() == QEvent::Show) {
-            told << static_cast<QWidget*>(watched)->findChild<QLabel*>()->text();
-            typeWhenTold();
-        }
-        painted = painted || (event->type() == QEvent::Paint && watched == &screen);
-        return false;
-    }
+    ~DatabaseWaitTest() override { velcro::sql::setWaitHook({}); }
 
     TdsServer server{answer};
     Connection connection{{}};
-    QWidget screen;
-    QLineEdit* edit = new QLineEdit;
-    QStringList told;
-    bool painted = false;
-    std::function<void()> typeWhenTold = [] {};
 };
 
 } // namespace

@@ -5,14 +5,7 @@
 #include "platform/http/Waiting.h"
 #include "support/RawServer.h"
 #include "support/TypedAhead.h"
-
-#include <QApplication>
-#include <QFrame>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-#include <QVBoxLayout>
-#include <gtest/gtest.h>
+#include "support/WaitingScreen.h"
 
 #include <chrono>
 #include <thread>
@@ -24,38 +17,14 @@ using Reply = RawServer::Reply;
 
 namespace {
 
-/// A screen of a seat whose message service takes its time. Types when the wait is told.
-class ServiceWaitTest : public testing::Test, public QObject
+class ServiceWaitTest : public WaitingScreen
 {
 protected:
-    ServiceWaitTest() {
-        (new QVBoxLayout(&screen))->addWidget(edit);
-        screen.resize(800, 600);
-        screen.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&screen));
-        watchServiceWaits();
-        qApp->installEventFilter(this);
-    }
+    ServiceWaitTest() { watchServiceWaits(); }
     ~ServiceWaitTest() override {
-        qApp->removeEventFilter(this);
         velcro::http::setWaitHook({});
         gLetScreensPaint = {};
     }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched->objectName() == "WaitNotice" && event->type() == QEvent::Show) {
-            told << static_cast<QWidget*>(watched)->findChild<QLabel*>()->text();
-            typeWhenTold();
-        }
-        painted = painted || (event->type() == QEvent::Paint && watched == &screen);
-        return false;
-    }
-
-    QWidget screen;
-    QLineEdit* edit = new QLineEdit;
-    QStringList told;
-    bool painted = false;
-    std::function<void()> typeWhenTold = [] {};
 };
 
 } // namespace

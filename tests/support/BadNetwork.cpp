@@ -1,5 +1,7 @@
 #include "support/BadNetwork.h"
 
+#include "support/Loopback.h"
+
 #include <deque>
 #include <system_error>
 #include <vector>
@@ -52,16 +54,13 @@ struct BadNetwork::Link
 
 BadNetwork::BadNetwork(const std::string& server)
     : host_(server.substr(0, server.find(',')))
-    , serverPort_(std::stoi(server.substr(server.find(',') + 1)))
-    , listener_(socket(AF_INET, SOCK_STREAM, 0)) {
-    auto address = addressOf("127.0.0.1", 0);
-    socklen_t size = sizeof address;
-    auto* plain = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener_, plain, size) != 0 || listen(listener_, 8) != 0 ||
-        getsockname(listener_, plain, &size) != 0 || pipe(wake_) != 0) {
+    , serverPort_(std::stoi(server.substr(server.find(',') + 1))) {
+    const auto [socket, port] = listenOnLoopback();
+    listener_ = socket;
+    port_ = port;
+    if (pipe(wake_) != 0) {
         fail("no network on loopback");
     }
-    port_ = ntohs(address.sin_port);
     thread_ = std::thread([this] { serve(); });
 }
 

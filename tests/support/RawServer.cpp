@@ -1,11 +1,9 @@
 #include "support/RawServer.h"
 
-#include <algorithm>
-#include <system_error>
+#include "support/Loopback.h"
 
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
+#include <algorithm>
+
 #include <unistd.h>
 
 namespace velcro::test {
@@ -32,18 +30,13 @@ bool sendAll(int client, std::string_view bytes) {
 } // namespace
 
 RawServer::RawServer(Answer answer)
-    : answer_(std::move(answer))
-    , listener_(socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* plain = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener_, plain, size) != 0 || listen(listener_, 8) != 0 ||
-        getsockname(listener_, plain, &size) != 0 || pipe(wake_) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no server on loopback");
+    : answer_(std::move(answer)) {
+    const auto [socket, port] = listenOnLoopback();
+    listener_ = socket;
+    port_ = port;
+    if (pipe(wake_) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no pipe");
     }
-    port_ = ntohs(address.sin_port);
     thread_ = std::thread([this] { serve(); });
 }
 
@@ -69,15 +62,8 @@ std::string RawServer::whole(const std::string& body, const std::string& status)
            "\r\n\r\n" + body;
 }
 
-/// False when the test is over.
-bool RawServer::readable(int socket) const {
-    pollfd waits[] = {{socket, POLLIN, 0}, {wake_[0], POLLIN, 0}};
-    poll(waits, 2, -1);
-    return waits[1].revents == 0;
-}
-
 void RawServer::serve() {
-    while (readable(listener_)) {
+    while (readable(listener_, wake_[0])) {
         const int client = accept(listener_, nullptr, nullptr);
         {
             const std::lock_guard lock(mutex_);
@@ -106,7 +92,7 @@ void RawServer::serveClient(int client) {
             return;
         }
         if (reply.then == Reply::Stall) {
-            readable(client); // its end, or the test's
+            readable(client, wake_[0]); // its end, or the test's
             return;
         }
     }
@@ -121,7 +107,7 @@ std::string RawServer::readRequest(int client) const {
         if (end != std::string::npos && bytes.size() >= end + 4 + lengthOf(bytes.substr(0, end))) {
             return bytes;
         }
-        const auto count = readable(client) ? recv(client, buffer, sizeof buffer, 0) : 0;
+        const auto count = readable(client, wake_[0]) ? recv(client, buffer, sizeof buffer, 0) : 0;
         if (count <= 0) {
             return {};
         }

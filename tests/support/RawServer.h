@@ -48,7 +48,6 @@ private:
     void serve();
     void serveClient(int client);
     std::string readRequest(int client) const;
-    bool readable(int client) const;
     void sendReply(int client, const Reply& reply) const;
 
     Answer answer_;

@@ -1,16 +1,12 @@
 #include "support/TdsServer.h"
 
 #include "platform/sqlserver/Utf16.h"
+#include "support/Loopback.h"
 
 #include <algorithm>
 #include <optional>
 #include <stdexcept>
-#include <system_error>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace velcro::test {
@@ -207,18 +203,13 @@ TdsReply& TdsReply::endTransaction() {
 
 TdsServer::TdsServer(Answer answer, Login login)
     : answer_(std::move(answer))
-    , login_(login)
-    , listener_(socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* plain = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener_, plain, size) != 0 || listen(listener_, 8) != 0 ||
-        getsockname(listener_, plain, &size) != 0 || pipe(wake_) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no server on loopback");
+    , login_(login) {
+    const auto [socket, port] = listenOnLoopback();
+    listener_ = socket;
+    port_ = port;
+    if (pipe(wake_) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no pipe");
     }
-    port_ = ntohs(address.sin_port);
     thread_ = std::thread([this] { serve(); });
 }
 
@@ -234,12 +225,7 @@ std::string TdsServer::address() const {
 }
 
 void TdsServer::serve() {
-    for (;;) {
-        pollfd waits[] = {{listener_, POLLIN, 0}, {wake_[0], POLLIN, 0}};
-        poll(waits, 2, -1);
-        if (waits[1].revents != 0) {
-            return;
-        }
+    while (readable(listener_, wake_[0])) {
         const int client = accept(listener_, nullptr, nullptr);
         if (client >= 0) {
             serveClient(client);
@@ -338,9 +324,7 @@ TdsReply TdsServer::answerRequest(int type, const std::string& body) {
 
 void TdsServer::serveClient(int client) {
     while (login_ != Login::CutAtOnce) {
-        pollfd waits[] = {{client, POLLIN, 0}, {wake_[0], POLLIN, 0}};
-        poll(waits, 2, -1);
-        const auto request = waits[1].revents == 0 ? readRequest(client) : std::nullopt;
+        const auto request = readable(client, wake_[0]) ? readRequest(client) : std::nullopt;
         if (!request) {
             return;
         }
