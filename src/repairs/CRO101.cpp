@@ -6,7 +6,9 @@
 #include "repairs/CRO101A.h"
 #include "repairs/CRO102.h"
 #include "repairs/CRO103.h"
+#include "repairs/CRO104.h"
 #include "repairs/SysCRO.h"
+#include "ui/AmountEdit.h"
 #include "ui/FormBuilder.h"
 
 #include <QLineEdit>
@@ -45,22 +47,22 @@ TfrmCRO101::TfrmCRO101(const RepairOrderKey& order, QWidget* parent)
                     belowButton(u"btnProcesses"_s, u"Item Process"_s, Qt::Key_F5,
                                 u"Work steps on the item [F5]"_s, &TfrmCRO101::showProcesses),
                     belowButton(u"btnQuotation"_s, u"Item Estimate"_s, {},
-                                u"Estimate of the item [F6]"_s, nullptr)},
+                                u"Estimate of the item [F6]"_s, &TfrmCRO101::showQuotation,
+                                u"ItemNo"_s)},
         .functions = {restoreButton(), print},
     });
 }
 
 ButtonFacts TfrmCRO101::belowButton(const QString& name, const QString& caption,
                                     const QKeySequence& key, const QString& hint,
-                                    void (TfrmCRO101::*show)()) {
-    ButtonFacts facts = {
-        .name = name, .caption = caption, .key = key, .needsRecord = true, .hint = hint};
-    if (show != nullptr) {
-        facts.handler = [this, show] { showForCurrent([this, show](int) { (this->*show)(); }); };
-    } else {
-        facts.hint += u": not part of the program yet"_s;
-    }
-    return facts;
+                                    void (TfrmCRO101::*show)(), const QString& locateBy) {
+    return {
+        .name = name,
+        .caption = caption,
+        .key = key,
+        .handler = [=, this] { showForCurrent([this, show](int) { (this->*show)(); }, locateBy); },
+        .needsRecord = true,
+        .hint = hint};
 }
 
 // The item's number is not handed over.
@@ -70,6 +72,13 @@ void TfrmCRO101::showProcesses() {
     processes.edSerialNo->setText(currentText("SerialNo"));
     processes.edDescription1->setText(currentText("Description1"));
     velcro::ui::runModal(processes);
+}
+
+void TfrmCRO101::showQuotation() {
+    TfrmCRO104 quotation(this);
+    quotation.edCRONo->setText(order_.xCRONo);
+    quotation.edItemNo->setNumber(currentText("ItemNo"));
+    velcro::ui::runModal(quotation);
 }
 
 void TfrmCRO101::makeBand() {

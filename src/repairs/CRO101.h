@@ -19,11 +19,13 @@ protected:
 
 private:
     void makeBand();
-    /// Leads to a screen of what hangs below the current item; without one it is greyed and says so.
+    /// Leads to a screen of what hangs below the current item, which is found again by the field.
     ButtonFacts belowButton(const QString& name, const QString& caption, const QKeySequence& key,
-                            const QString& hint, void (TfrmCRO101::*show)());
+                            const QString& hint, void (TfrmCRO101::*show)(),
+                            const QString& locateBy = QStringLiteral("RecID"));
     void showProcesses();
     void showImages();
+    void showQuotation();
 
     const RepairOrderKey order_;
 };

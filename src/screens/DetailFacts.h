@@ -116,6 +116,7 @@ struct UniqueKey
     const char* columns = ""; // blank-separated; none: nothing is checked
     QString refusal = {};
     const char* focus = nullptr;
+    QString hint = {}; // of the table, when the check is to wait for nobody: " WITH (NOLOCK)"
 };
 
 struct DetailFacts

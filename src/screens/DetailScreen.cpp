@@ -186,6 +186,7 @@ void DetailScreen::ExtractData() {
                  dialogAndFalse(facts_.errorNo, text + u'\r', unitName(), u"ExtractData"_s),
                  [this](const Statement& row) {
                      if (!row.IsEmpty()) {
+                         rowRead(row);
                          form_->load(row);
                          rowLoaded(row);
                      }
@@ -310,8 +311,9 @@ bool DetailScreen::isUnique() {
         conditions << "[" + column + "] = " + QuotedStr(form_->value(column));
     }
     const QString table = QLatin1String(facts_.table);
-    if (sld_CheckDuplicates(
-            "SELECT [RecID] FROM " + table + " WHERE " + conditions.join("   AND "_L1), table)) {
+    if (sld_CheckDuplicates("SELECT [RecID] FROM " + table + facts_.unique.hint + " WHERE " +
+                                conditions.join("   AND "_L1),
+                            table)) {
         const auto* focus = facts_.unique.focus;
         return refuse(focus != nullptr ? control<QWidget>(focus) : nullptr, facts_.unique.refusal);
     }

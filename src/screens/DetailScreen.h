@@ -52,7 +52,8 @@ protected:
     virtual void setDefaults();
     /// The lines that read the row.
     virtual QStringList selectLines() const;
-    /// What a screen does beyond filling the controls once its row is read.
+    /// What a screen does before the controls are filled from its row, and beyond filling them.
+    virtual void rowRead(const Statement& /*row*/) {}
     virtual void rowLoaded(const Statement& /*row*/) {}
     /// Whether the values may be saved; otherwise the reason is shown and its control has the focus.
     virtual bool Validation();

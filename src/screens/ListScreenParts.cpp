@@ -94,8 +94,9 @@ QWidget& ListScreen::beside() {
 // The grid comes before the buttons of the panel, since it has the focus when the screen opens.
 void ListScreen::orderTabs() {
     QWidget* before = nullptr;
-    const auto add = [&before](QWidget* next) {
-        if ((next->focusPolicy() & Qt::TabFocus) != 0) {
+    const auto add = [this, &before](QWidget* next) {
+        // A combo has its list in a window of its own.
+        if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->window() == this) {
             if (before != nullptr) {
                 setTabOrder(before, next);
             }
