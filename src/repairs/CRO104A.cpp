@@ -50,12 +50,17 @@ std::vector<DetailField> lineFields() {
         amount("edTotalCostExcl", u"Total Excl."_s, shown(false, 2)),
         amount("edTotalCostIncl", u"Total Incl."_s, shown(true, 2)),
         amount("edGP", u"GP %"_s, shown(true, 2)),
-        group({}),
+        group(u" [ Notes ] "_s),
         text("edNotes", u"Notes"_s, {.width = 60, .limit = 100, .upperCase = true}),
     };
 }
 
 // clang-format on
+
+// The description comes with the product and is not typed.
+bool isFound(const QString& description) {
+    return isNotBlank(description);
+}
 
 DetailFacts lineFacts(const TfrmCRO104A& screen, const QString& vatCode) {
     const QString noStockCode = u"Enter a Valid Stock Code"_s;
@@ -69,7 +74,7 @@ DetailFacts lineFacts(const TfrmCRO104A& screen, const QString& vatCode) {
         .errorText = u"SQL Error on Table: CRORepItmQuoteDet :-"_s,
         .fields = lineFields(),
         .checks = {{"edStockCode", isNotBlank, noStockCode},
-                   {"edDescription1", isNotBlank, noStockCode, "edStockCode"},
+                   {"edDescription1", isFound, noStockCode, "edStockCode"},
                    {"edQuantity", isNotZero, u"Cannot be capture zero (0) quantity item"_s}},
         .unique = {"CO Branch CRONo ItemNo StockCode LinkCode",
                    u"Stock Item Already Exists. Update the Existing Values"_s, nullptr,
