@@ -15,6 +15,7 @@ void addBooking(Tour& tour);
 /// Of the order that was booked in.
 void addItems(Tour& tour);
 void addProcesses(Tour& tour);
+void addQuotation(Tour& tour);
 /// Pictures of an item; the register arranged and exported.
 void addImages(Tour& tour);
 void addDialogs(Tour& tour);

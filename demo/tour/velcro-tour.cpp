@@ -34,6 +34,7 @@ int walk(int argc, char** argv) {
     addBooking(tour);
     addItems(tour);
     addProcesses(tour);
+    addQuotation(tour);
     addImages(tour);
     addDialogs(tour);
     addNotices(tour, program.mainForm());

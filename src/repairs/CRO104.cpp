@@ -85,13 +85,14 @@ void TfrmCRO104::makeHeader() {
     edItemNo = form.beside().amount(u"edItemNo"_s, u"Item #No"_s, 0, true);
     edTranDate = form.date(u"edTranDate"_s, u"Order Date"_s);
     edOrderNo =
-        form.beside().edit(u"edOrderNo"_s, u"Quotation #No"_s,
+        form.beside().edit(u"edOrderNo"_s, u"Quote #No"_s,
                            {.width = 18, .readOnly = true, .emptyText = u"*system generated*"_s});
     cmbTechCode = form.combo(u"cmbTechCode"_s, u"Technician"_s, {}, 24);
     edNotes = form.beside().edit(u"edNotes"_s, u"Notes"_s,
                                  {.width = 32, .limit = 100, .upperCase = true});
-    edDepositRequired = form.amount(u"edDepositRequired"_s, u"Deposit Required"_s);
-    edDepositPaid = form.beside().amount(u"edDepositPaid"_s, u"Deposit Paid"_s);
+    edDepositRequired = form.amount(u"edDepositRequired"_s, u"Deposit"_s);
+    edDepositPaid = form.beside().amount(u"edDepositPaid"_s, u"Paid"_s);
+    form.stretch();
     for (auto* control : above().findChildren<QLineEdit*>()) {
         control->installEventFilter(this);
     }

@@ -42,16 +42,15 @@ std::vector<DetailField> lineFields() {
         amount("edPriceIncl", u"Price Incl."_s, own(5)),
         amount("edLineTotalExcl", u"Total Excl."_s, first(5)),
         amount("edLineTotalIncl", u"Total Incl."_s, own(5)),
-        amount("edLineVAT", u"Total VAT"_s, shown(true, 5)),
+        amount("edLineVAT", u"Total VAT"_s, shown(false, 5)),
+        text("edNotes", u"Notes"_s, {.beside = true, .width = 36, .limit = 100, .upperCase = true}),
         group(u" [ Cost ] "_s),
         amount("edCostExcl", u"Cost Excl."_s, shown(false, 2)),
         amount("edCostIncl", u"Cost Incl."_s, shown(true, 2)),
-        amount("edProfit", u"Profit"_s, shown(true, 2)),
         amount("edTotalCostExcl", u"Total Excl."_s, shown(false, 2)),
         amount("edTotalCostIncl", u"Total Incl."_s, shown(true, 2)),
+        amount("edProfit", u"Profit"_s, shown(false, 2)),
         amount("edGP", u"GP %"_s, shown(true, 2)),
-        group(u" [ Notes ] "_s),
-        text("edNotes", u"Notes"_s, {.width = 60, .limit = 100, .upperCase = true}),
     };
 }
 
