@@ -72,8 +72,7 @@ TfrmCRO104::TfrmCRO104(QWidget* parent)
         .functions = {restoreButton(),
                       {.name = u"btnKeyboard"_s,
                        .caption = u"Touch Keyboard"_s,
-                       .handler = hasKeyboard() ? sfg_ShowTouchKeyboard : std::function<void()>(),
-                       .icon = u"keyboard"_s}},
+                       .handler = hasKeyboard() ? sfg_ShowTouchKeyboard : std::function<void()>()}},
     });
     // The edit that is typed into keeps the focus.
     findChild<QWidget*>(u"btnKeyboard"_s)->setFocusPolicy(Qt::NoFocus);
@@ -93,6 +92,11 @@ void TfrmCRO104::makeHeader() {
     edDepositRequired = form.amount(u"edDepositRequired"_s, u"Deposit"_s);
     edDepositPaid = form.beside().amount(u"edDepositPaid"_s, u"Paid"_s);
     form.stretch();
+    // On the smallest screen the second column gives way, beside the panel of buttons.
+    for (QWidget* second :
+         std::initializer_list<QWidget*>{edItemNo, edOrderNo, edNotes, edDepositPaid}) {
+        second->setMinimumWidth(second->minimumWidth() * 3 / 4);
+    }
     for (auto* control : above().findChildren<QLineEdit*>()) {
         control->installEventFilter(this);
     }
