@@ -83,6 +83,24 @@ TEST_F(ImagesTest, whatTheCameraSeesIsKeptAsABitmapAndShownAgain) {
     EXPECT_EQ(bytes.size(), 54 + 640 * 480 * 3);
 }
 
+TEST_F(ImagesTest, aPictureOfTwentyMegabytesComesBackWhole) {
+    QImage large(3000, 2400, QImage::Format_RGB32);
+    for (int y = 0; y < large.height(); ++y) {
+        for (int x = 0; x < large.width(); ++x) {
+            large.setPixel(x, y, qRgb(x % 256, y % 256, (x * y) % 251));
+        }
+    }
+    inImages([&](TfrmCRO103& form) {
+        camera->showInstead(large);
+        user.press(Qt::Key_Space);
+        user.press(Qt::Key_F10);
+        camera->showInstead(SimulatedCamera::pictureOf(0, 0));
+        user.press(Qt::Key_Space);
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(still(form).convertToFormat(QImage::Format_RGB32), large);
+    });
+}
+
 TEST_F(ImagesTest, aDeletedOneLeavesNoGap) {
     for (const char* number : {"1", "2", "3", "10"}) {
         keep(number);
