@@ -8,7 +8,6 @@
 #include "data/StatementText.h"
 #include "lookups/CRO921.h"
 #include "lookups/SysSTK.h"
-#include "screens/GridLayouts.h"
 #include "ui/DecimalText.h"
 #include "ui/Modal.h"
 
@@ -97,16 +96,11 @@ std::vector<PickedField> TfrmCRO920::results() {
     };
 }
 
-void TfrmCRO920::FormShow() {
-    sfvel_LoadSavedGrid(grid(), unitName());
-    if (xShowCosts != "Y"_L1) {
-        hideCosts();
-    }
-    SelectionScreen::FormShow();
-}
-
 // Also where the user's own layout shows them.
-void TfrmCRO920::hideCosts() {
+void TfrmCRO920::beforeRead(bool /*whole*/) {
+    if (xShowCosts == "Y"_L1) {
+        return;
+    }
     const auto& columns = grid().rowModel().columns();
     for (int i = 0; i < int(columns.size()); ++i) {
         if (columns[i].field.contains("Cost"_L1)) {

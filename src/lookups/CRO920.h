@@ -30,11 +30,10 @@ public:
 protected:
     QStringList statementLines(const QString& xSQL) const override;
     bool rowPicked() override;
-    void FormShow() override;
+    void beforeRead(bool whole) override;
 
 private:
     std::vector<PickedField> results();
-    void hideCosts();
     QStringList baseLines() const;
     QStringList filterLines() const;
     /// Lets the user pick a linked item of the current row, which takes the parent's place. False

@@ -4,7 +4,10 @@
 #include "lookups/CRO920.h"
 #include "lookups/CRO921.h"
 #include "lookups/VEL012.h"
+#include "screens/GridLayouts.h"
 #include "support/ScreenChecks.h"
+#include "ui/GridLayout.h"
+#include "ui/RowGrid.h"
 
 #include <QLineEdit>
 
@@ -87,6 +90,7 @@ protected:
         keepPicture(user.form(), picture);
     }
     void leave() { user.press(Qt::Key_Escape); }
+    QStringList faults() const { return desk.shown + raised; }
 };
 
 const auto asItIs = [](TfrmCRO920&) {};
@@ -155,6 +159,32 @@ TEST_F(ProductSelectionTest, theCallerNarrowsTheListAndShowsCosts) {
              leave();
          });
     EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(ProductSelectionTest, theUsersLayoutComesBackButForCostsThatTheCallerHides) {
+    stock();
+    gAllowViewCost = "Y";
+    show([](TfrmCRO920& screen) { screen.xShowCosts = "Y"; },
+         [&] {
+             auto& grid = user.find<velcro::ui::RowGrid>("grdList");
+             grid.setColumnHidden(grid.rowModel().columnOf("Barcode"), true);
+             sfvel_SaveGrids("CRO920", velcro::ui::gridLayoutText(grid));
+             leave();
+         });
+    for (const char* showCosts : {"Y", "N"}) {
+        show([&](TfrmCRO920& screen) { screen.xShowCosts = showCosts; },
+             [&] {
+                 EXPECT_THROW(user.column("Barcode"), std::runtime_error);
+                 if (showCosts[0] == 'Y') {
+                     EXPECT_EQ(user.column("L/Cost Excl.").value(0), "1.05");
+                 } else {
+                     EXPECT_THROW(user.column("L/Cost Excl."), std::runtime_error);
+                 }
+                 leave();
+             });
+    }
+    gAllowViewCost.clear();
+    EXPECT_EQ(faults(), QStringList());
 }
 
 TEST_F(ProductSelectionTest, aSearchLeavesTheScopeButByItsFirstTerm) {
