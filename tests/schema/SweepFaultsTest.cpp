@@ -42,8 +42,14 @@ int sweepOnce(const std::string& folder, const QString& name) {
     return seat.refused.isEmpty() ? 0 : 1;
 }
 
+/// What a killed process leaves goes with the till's folder.
+void leaveNothingBehind(const std::string& folder) {
+    setenv("TMPDIR", folder.c_str(), 1);
+}
+
 /// Tells of each step by a byte, and stays there when it is done.
 int sweepReporting(const std::string& folder, int report) {
+    leaveNothingBehind(folder);
     TillSeat seat(folder);
     const auto tell = [report] { (void)!write(report, ".", 1); };
     velcro::schema::gSchemaWatch = {.afterLookUp = tell,
@@ -129,6 +135,7 @@ TEST(SweepFaultsTest, aTableThatWasCutOffFromItsKeyGetsIt) {
     sweptTill().copyTo(database);
     database.answer("DROP TABLE SYSAudit");
     ChildProcess child([&](int) {
+        leaveNothingBehind(folderOf(database));
         TillSeat seat(folderOf(database));
         velcro::schema::gSchemaWatch.afterSend = [](const QString& statement, bool) {
             if (statement.startsWith("CREATE TABLE [dbo].[SYSAudit]")) {

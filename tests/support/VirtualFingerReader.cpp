@@ -75,10 +75,10 @@ void VirtualFingerReader::unplug() {
     send(fatalError, deviceRemoved);
 }
 
-QByteArray VirtualFingerReader::enrol(unsigned finger) {
+QByteArray VirtualFingerReader::enrol(unsigned finger, const QStringList& arguments) {
     QProcess program;
     program.setReadChannel(QProcess::StandardError);
-    program.start(QStringLiteral(VELCRO_ENROL), {"--user", "COUNTER1", "--print"});
+    program.start(QStringLiteral(VELCRO_ENROL), arguments);
     for (unsigned impression = 0; program.waitForReadyRead(patience);) {
         const QByteArray said = program.readAllStandardError();
         for (int i = 0; i < said.count("Place the finger"); ++i) {

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QStringList>
 
 namespace velcro::test {
 
@@ -22,8 +23,10 @@ public:
     /// Takes it away from the seat.
     void unplug();
 
-    /// The template that velcro-enrol makes of five impressions of a finger. Throws when it fails.
-    QByteArray enrol(unsigned finger);
+    /// What velcro-enrol says that is given five impressions of a finger: with these arguments its
+    /// template. Throws when it fails.
+    QByteArray enrol(unsigned finger,
+                     const QStringList& arguments = {"--user", "COUNTER1", "--print"});
 
 private:
     void connectTo();
