@@ -18,14 +18,9 @@ std::string valuesOf(const Finger& finger) {
     return quoted(finger.description) + ", " + std::to_string(finger.mask) + ", ";
 }
 
-int identityOf(sql::SqlConnection& suite, const std::string& user) {
-    const auto row = suite.query("SELECT BioID FROM SYSUser WHERE UserCode = " + quoted(user));
-    if (row.rowCount() == 0) {
-        throw std::runtime_error("There is no user " + user + ".");
-    }
-    const std::string identity(row.text(0, 0));
-    if (!identity.empty() && identity != "0") {
-        return std::stoi(identity);
+int ownIdentityOf(sql::SqlConnection& suite, const std::string& user) {
+    if (const int identity = identityOf(suite, user); identity != 0) {
+        return identity;
     }
     suite.execute("UPDATE SYSUser SET BioID = (SELECT MAX(BioID) + 1 FROM SYSUser)"
                   " WHERE UserCode = " +
@@ -35,10 +30,17 @@ int identityOf(sql::SqlConnection& suite, const std::string& user) {
 
 } // namespace
 
+int identityOf(sql::SqlConnection& suite, const std::string& user) {
+    const auto row = suite.query("SELECT BioID FROM SYSUser WHERE UserCode = " + quoted(user));
+    if (row.rowCount() == 0) {
+        throw std::runtime_error("There is no user " + user + ".");
+    }
+    return row.isNull(0, 0) ? 0 : std::stoi(std::string(row.text(0, 0)));
+}
+
 void store(sql::SqlConnection& suite, fingerprint::Family family, const Finger& finger) {
     suite.begin();
     try {
-        const int identity = identityOf(suite, finger.user);
         if (family == fingerprint::Family::DigitalPersona) {
             suite.execute("INSERT INTO SYSUserBiometrics (UserCode, FPDescription, FPMask, FPData)"
                           " VALUES (" +
@@ -47,8 +49,9 @@ void store(sql::SqlConnection& suite, fingerprint::Family family, const Finger& 
         } else {
             suite.execute("INSERT INTO SYSBiometricDetl (BioID, FPDescription, FPMask, FPData)"
                           " VALUES (" +
-                          std::to_string(identity) + ", " + valuesOf(finger) + "CAST(" +
-                          quoted(finger.text) + " AS varbinary(max)))");
+                          std::to_string(ownIdentityOf(suite, finger.user)) + ", " +
+                          valuesOf(finger) + "CAST(" + quoted(finger.text) +
+                          " AS varbinary(max)))");
         }
         suite.commit();
     } catch (...) {

@@ -58,7 +58,7 @@ void enrol(const QCommandLineParser& line, QTextStream& out, QTextStream& progre
         return line.value(QString::fromLatin1(name)).toStdString();
     };
     std::unique_ptr<velcro::sql::SqlConnection> suite;
-    if (!line.isSet(u"print"_s)) { // before anybody lays five fingers on for nothing
+    if (!line.isSet(u"print"_s)) { // before anybody lays a finger on five times for nothing
         suite = velcro::sql::createConnection(value("S"));
         suite->connect({.server = value("S"),
                         .database = value("d"),
@@ -66,6 +66,7 @@ void enrol(const QCommandLineParser& line, QTextStream& out, QTextStream& progre
                         .password = line.isSet(u"P"_s)
                                         ? value("P")
                                         : qEnvironmentVariable("VELSQL_PASSWORD").toStdString()});
+        velcro::enrol::identityOf(*suite, value("user"));
     }
     const QByteArray text = velcro::enrol::takeFinger(line.value(u"user"_s), progress);
     if (!suite) {
