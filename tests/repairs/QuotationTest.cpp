@@ -497,3 +497,33 @@ TEST_F(QuotationTest, aServerLostAtAnyStatementLeavesAWholeLineOrNone) {
     });
     EXPECT_EQ(faults().size(), told + 1);
 }
+
+// Calls of Enter on a scanned barcode: the search, the product, its price.
+TEST_F(QuotationTest, aServerLostWhileAProductIsLookedUpIsToldAndTheScanCanBeRepeated) {
+    drill();
+    gData->ConnectDB_VEL(gDBConnector, gCmnHost, "VELSUITE", {}, {}, "N");
+    const char* const told[] = {"Error Reading STKMaster : \r\r", "104A-002|", "200011|"};
+    for (int call = 1; call <= 3; ++call) {
+        desk.shown.clear();
+        show(1, {}, [&] {
+            if (call == 1) { // counts as nothing found: the products are offered
+                user.expectForm(productsTitle, [&] { user.press(Qt::Key_Escape); });
+            }
+            server.dropAt(call);
+            scan("600100");
+            EXPECT_TRUE(server.dropped()) << call;
+            server.forget();
+            EXPECT_EQ(desk.shown.size(), 1) << call;
+            EXPECT_TRUE(desk.shown.value(0).startsWith(told[call - 1]))
+                << desk.shown.join('\n').toStdString();
+            if (call < 3) {
+                EXPECT_EQ(user.focus(), "edStockCode");
+                scan("600100");
+            }
+            EXPECT_EQ(user.sees("edDescription1"), "Of DRILL") << call;
+            EXPECT_EQ(user.sees("edPriceExcl"), call < 3 ? "10.00" : "0.00") << call;
+            leave();
+        });
+    }
+    EXPECT_EQ(raised, QStringList());
+}
