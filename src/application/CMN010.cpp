@@ -32,7 +32,9 @@ TfrmCMN010::TfrmCMN010(const QString& exeVersion, const QString& sysVersion)
     , xSysVersion(sysVersion)
     , programName_(withoutExtension(gEXEName)) {
     auto* advice = new QLabel(
-        tr("The version of this program differs from the version registered for the suite."), this);
+        tr("The version of this program differs from the version registered for the suite. Close "
+           "ends the program, unless its own version is the newer one."),
+        this);
     advice->setWordWrap(true);
     body().addWidget(advice, 1);
     addFact(QStringLiteral("lblEXEName"), tr("Program"), gEXEName);

@@ -46,6 +46,7 @@ ListFacts registerFacts() {
         .search = {.terms = {u"AND [CRONo] LIKE '%"_s, u" OR [Account] LIKE '%"_s,
                              u" OR [Name] LIKE '%"_s, u" OR [Cellphone] LIKE '%"_s,
                              u" OR [Reference] LIKE '%"_s}},
+        .spokenBy = u"CRONo"_s,
     };
 }
 

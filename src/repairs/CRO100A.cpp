@@ -85,6 +85,8 @@ DetailFacts orderFacts() {
                    "Telephone2 Cellphone Contact EMail Reference ReceiveDate ReceiveMthd",
         .values = {{"ReceiveItems", always(u"0"_s)}, {"Status", always(u"0"_s)}},
         .stamped = true,
+        .addedText = u"Order %1 is booked in."_s,
+        .numberControl = "edCRONo",
     };
 }
 

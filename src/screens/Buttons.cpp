@@ -42,6 +42,9 @@ KeyButton* makeButton(QWidget& form, const ButtonFacts& facts, PlainEnter enter)
     button->setObjectName(facts.name);
     button->setAccessibleName(facts.caption.simplified().remove(QLatin1Char('&')));
     button->setToolTip(facts.hint);
+    if (const auto key = facts.key.isEmpty() ? button->shortcut() : facts.key; !key.isEmpty()) {
+        button->setAccessibleDescription(u"Key "_s + key.toString(QKeySequence::NativeText));
+    }
     button->setRole(facts.role);
     if (!facts.icon.isEmpty()) {
         button->setIcon(velcro::ui::icon(facts.icon));

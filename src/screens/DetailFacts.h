@@ -140,4 +140,6 @@ struct DetailFacts
     bool validatesDelete = true; // a row is checked before it is deleted
     bool keyCapsBySeat = false;  // no pictures of keys on a seat that is worked by touch alone
     const char* firstInUpdate = nullptr; // control with the focus; none: the first changeable one
+    QString addedText = {};              // said after an add; %1 is what the next control holds
+    const char* numberControl = nullptr;
 };

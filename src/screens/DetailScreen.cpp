@@ -243,7 +243,9 @@ void DetailScreen::btnSaveClick() {
     sfg_ClearSQL();
     collect();
     // A failed save has told of itself; the screen closes all the same.
-    gData->vel_ExecSQL(1);
+    if (gData->vel_ExecSQL(1) && adding() && facts_.numberControl != nullptr) {
+        added_ = facts_.addedText.arg(fieldValue(*control<QWidget>(facts_.numberControl)));
+    }
     // The row is written: what fails from here on must not leave it to be saved once more.
     const auto close = qScopeGuard([this] { accept(); });
     afterSave();
@@ -339,6 +341,7 @@ bool DetailScreen::refuse(QWidget* control, const QString& message) {
     displayError(message);
     if (control != nullptr) {
         offending_ = control;
+        describe(*control, message);
         mark(control, "offending", true);
         velcro::ui::bringForward(*control);
         control->setFocus();
@@ -350,6 +353,7 @@ void DetailScreen::clearRefusal() {
     resetStatusBar();
     if (offending_ != nullptr) {
         mark(offending_, "offending", false);
+        describe(*offending_, {});
         offending_ = nullptr;
     }
 }

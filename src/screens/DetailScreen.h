@@ -27,6 +27,8 @@ public:
     /// The user has changed something: leaving without a save asks first. Happens by itself for all
     /// stated controls but those of the screen's own.
     void touch() { touched_ = true; }
+    /// What the list below says once a row was added; blank when none was.
+    QString whatWasAdded() const { return added_; }
     /// To the next control, as Enter leads.
     void goOn() { focusNextChild(); }
 
@@ -102,5 +104,6 @@ private:
     DetailFacts facts_;
     std::unique_ptr<DetailForm> form_;
     QWidget* offending_ = nullptr;
+    QString added_; // is said by the list below
     bool touched_ = false;
 };

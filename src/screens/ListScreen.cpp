@@ -47,6 +47,7 @@ void ListScreen::readList(const QString& searchedFor, QString xSQL) {
     if (pnlSearch_ != nullptr) {
         pnlSearch_->hide(); // before the focus leaves it
     }
+    resetStatusBar();
     beforeRead(whole);
     query_.setText({});
     searchedFor_ = searchedFor;
@@ -184,4 +185,7 @@ void MaintenanceList::ShowDetailForm(int xFunction) {
     }
     openDetail(xFunction, 0);
     BuildGrid();
+    if (!added_.isEmpty()) {
+        displayMessage(u"Msg"_s, std::exchange(added_, {}));
+    }
 }

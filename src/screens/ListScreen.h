@@ -49,6 +49,7 @@ struct ListFacts
     ListSearch search = {};
     int cap = 0;             // most rows that the whole list brings; 0: all
     QString statusCode = {}; // in the status bar, when it is not the unit
+    QString spokenBy = {};   // field that a screen reader tells a row by; none: the first column
 };
 
 /// The buttons of a list, top to bottom.
@@ -179,5 +180,11 @@ protected:
         detail.xRecID = xRecID;
         handOver(detail);
         velcro::ui::runModal(detail);
+        if constexpr (requires { detail.whatWasAdded(); }) {
+            added_ = detail.whatWasAdded();
+        }
     }
+
+private:
+    QString added_; // what is said of the row that was added last
 };

@@ -127,6 +127,8 @@ void ListScreen::makeGrid() {
     grid_->setAccessibleName(windowTitle());
     grid_->rowModel().setCellReader(cellText);
     grid_->setColumns(std::move(columns));
+    grid_->setSpokenField(facts_.spokenBy.isEmpty() ? facts_.columns.front().field
+                                                    : facts_.spokenBy);
     connectHandler(grid_, &RowGrid::rowChosen, this, [this] { rowChosen(); });
     connectHandler(grid_, &RowGrid::clicked, this, [this] { rowClicked(); });
     connectHandler(grid_, &RowGrid::currentRecordChanged, this, [this] { currentRecordChanged(); });

@@ -69,6 +69,8 @@ QPlainTextEdit* MessageForm::addText(const QString& name, const QString& text,
     font.setPointSizeF(font.pointSizeF() + 1);
     edit->setFont(font);
     edit->setPlainText(text);
+    edit->setProperty("role", "message");
+    setAccessibleDescription((accessibleDescription() + QLatin1Char(' ') + text).simplified());
     body_->addWidget(edit, 1);
     return edit;
 }

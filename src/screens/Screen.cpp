@@ -61,6 +61,17 @@ void Screen::displayMessage(const QString& type, const QString& message) {
     sfg_DisplayBar(type, message, *statusBar_, messagePanel);
 }
 
+// Beside what the control says of itself.
+void Screen::describe(QWidget& control, const QString& refusal) {
+    constexpr auto own = "ownDescription";
+    if (!control.property(own).isValid()) {
+        control.setProperty(own, control.accessibleDescription());
+    }
+    const auto ownText = control.property(own).toString();
+    control.setAccessibleDescription(refusal.isEmpty() ? ownText
+                                                       : (refusal + u' ' + ownText).trimmed());
+}
+
 void Screen::resetStatusBar() {
     sfg_ResetStatusBar(*statusBar_, messagePanel);
 }

@@ -32,6 +32,8 @@ protected:
     void displayError(const QString& message);
     void displayMessage(const QString& type, const QString& message);
     void resetStatusBar();
+    /// What is wrong with a control is its description; blank takes it away.
+    static void describe(QWidget& control, const QString& refusal);
 
     /// Everything above the status bar goes here.
     QVBoxLayout& body() { return *body_; }

@@ -18,6 +18,7 @@ const RightReads rightReads{
 TfrmCMN900::TfrmCMN900()
     : SignInForm(QStringLiteral("CMN900"), QStringLiteral("Supervisor Overide Function")) {
     setWindowTitle(QStringLiteral("Supervisor Over-Ride Code Required"));
+    addRequest();
     edSuperCode =
         addCode(QStringLiteral("edSuperCode"), QStringLiteral("Supervisor Code"), anyLength);
     edSuperPswd = addPassword(QStringLiteral("edSuperPswd"), QStringLiteral("Password"), anyLength);
@@ -35,6 +36,7 @@ TfrmCMN900::TfrmCMN900()
 void TfrmCMN900::FormShow() {
     xReturn = QStringLiteral("START");
     resetStatusBar();
+    showRequest(xModCode, xAccessNo);
     edSuperCode->setFocus();
 }
 

@@ -22,6 +22,7 @@ const RightReads rightReads{dialogAndFalse("100413", "SQL Error on Table: SYSGrp
 TfrmCMN901::TfrmCMN901()
     : SignInForm(QStringLiteral("CMN901"), QStringLiteral("Supervisor Over-ride")) {
     setWindowTitle(QStringLiteral("Double Supervisor Over-Ride Required"));
+    addRequest();
     addSupervisor(supervisors_[0], QStringLiteral("1"), QStringLiteral("First Supervisor"));
     addSupervisor(supervisors_[1], QStringLiteral("2"), QStringLiteral("Second Supervisor"));
     addButton({.name = QStringLiteral("btnOK"),
@@ -63,6 +64,7 @@ TfrmCMN901::Supervisor& TfrmCMN901::supervisor(const QString& xNo) {
 void TfrmCMN901::FormShow() {
     xReturn = QStringLiteral("START");
     resetStatusBar();
+    showRequest(xModCode, xAccessNo);
     for (auto& each : supervisors_) {
         each.user.clear();
         each.pswd.clear();

@@ -19,10 +19,19 @@ namespace {
 
 constexpr int leastWidth = 960;
 
+QDate dateOfPassword() {
+    try {
+        return StrToDate(gPswdDate);
+    } catch (const VelmaraError&) {
+        throw VelmaraError(QStringLiteral("The day on which your password was set cannot be read. "
+                                          "Ask the system administrator."));
+    }
+}
+
 // The password is still good on its expiry date.
 bool passwordHasExpired() {
     return gAllowPswdExp == QLatin1String("Y") &&
-           dateText(StrToDate(gPswdDate).addDays(gPswdExpDays)) < sfg_Date(0);
+           dateText(dateOfPassword().addDays(gPswdExpDays)) < sfg_Date(0);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QShowEvent>
@@ -51,6 +52,14 @@ QLineEdit* SignInForm::addPassword(const QString& name, const QString& label, in
     return edit;
 }
 
+void SignInForm::addRequest() {
+    request_ = form_->value(QStringLiteral("lblRequest"), QStringLiteral("To Authorise"));
+}
+
+void SignInForm::showRequest(const QString& xModCode, int xAccessNo) {
+    request_->setText(QStringLiteral("Access code %1 of module %2").arg(xAccessNo).arg(xModCode));
+}
+
 velcro::ui::KeyButton* SignInForm::addButton(const ButtonFacts& facts) {
     auto* button = makeButton(*this, facts);
     buttons_->addWidget(button);
@@ -59,6 +68,7 @@ velcro::ui::KeyButton* SignInForm::addButton(const ButtonFacts& facts) {
 
 void SignInForm::refuse(const QString& message, QWidget* focus) {
     displayError(message);
+    describe(*focus, message);
     goTo(focus);
 }
 

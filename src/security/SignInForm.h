@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 class QHBoxLayout;
+class QLabel;
 
 class SignInForm : public Screen
 {
@@ -30,6 +31,9 @@ protected:
     QLineEdit* addCode(const QString& name, const QString& label, int limit = codeLength);
     /// The same, shown as "#".
     QLineEdit* addPassword(const QString& name, const QString& label, int limit = codeLength);
+    /// What a supervisor is asked to authorise.
+    void addRequest();
+    void showRequest(const QString& xModCode, int xAccessNo);
     /// In the row below the form.
     velcro::ui::KeyButton* addButton(const ButtonFacts& facts);
     /// Enter in that edit runs the handler in place of going on.
@@ -50,5 +54,6 @@ protected:
 private:
     std::unique_ptr<velcro::ui::FormBuilder> form_;
     QHBoxLayout* buttons_ = nullptr;
+    QLabel* request_ = nullptr;
     int leastWidth_;
 };

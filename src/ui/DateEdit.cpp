@@ -2,15 +2,19 @@
 
 #include "ui/Handler.h"
 #include "ui/Modal.h"
+#include "ui/Theme.h"
 
 #include <QCalendarWidget>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace velcro::ui {
 
 namespace {
+
+constexpr int margins = 12; // around the days
 
 QString dateText(const QDate& date) {
     return date.toString(QStringLiteral("yyyy/MM/dd"));
@@ -24,6 +28,24 @@ QDate readDate(QString text) {
     }
     const auto date = QDate::fromString(text, QStringLiteral("yyyy/M/d"));
     return date.isValid() ? date : QDate::fromString(text, QStringLiteral("yyyyMMdd"));
+}
+
+// Days, arrows, month and year for a finger; the arrows have pictures only.
+void makeTouchable(QCalendarWidget& calendar) {
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar.setMinimumSize(7 * touchHeight + margins, 8 * touchHeight + margins);
+    const std::pair<const char*, const char*> parts[] = {
+        {"qt_calendar_prevmonth", "Previous Month"},
+        {"qt_calendar_nextmonth", "Next Month"},
+        {"qt_calendar_monthbutton", "Month"},
+        {"qt_calendar_yearbutton", "Year"},
+    };
+    for (const auto& [name, spoken] : parts) {
+        if (auto* button = calendar.findChild<QToolButton*>(QLatin1String(name))) {
+            button->setAccessibleName(QLatin1String(spoken));
+            button->setMinimumSize(touchHeight, touchHeight);
+        }
+    }
 }
 
 } // namespace
@@ -87,6 +109,7 @@ void DateEdit::pickDate() {
     auto* calendar = new QCalendarWidget(&popup);
     calendar->setAccessibleName(QStringLiteral("Calendar"));
     calendar->setSelectedDate(date().isValid() ? date() : QDate::currentDate());
+    makeTouchable(*calendar);
     layout->addWidget(calendar);
     connectHandler(calendar, &QCalendarWidget::activated, &popup, &QDialog::accept);
     connectHandler(calendar, &QCalendarWidget::clicked, &popup, &QDialog::accept);

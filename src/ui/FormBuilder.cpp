@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -337,6 +338,7 @@ QComboBox* FormBuilder::combo(const QString& name, const QString& label, const Q
                               int width) {
     auto* combo = new Yielding<QComboBox>;
     combo->addItems(entries);
+    combo->setItemDelegate(new QStyledItemDelegate(combo)); // takes heights from the style sheet
     combo->view()->installEventFilter(new OwnEscape(combo));
     combo->setWidths(widthOf(*combo, narrowestEdit) + arrowWidth,
                      widthOf(*combo, width) + arrowWidth);

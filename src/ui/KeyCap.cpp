@@ -128,7 +128,7 @@ void paintCap(QPainter& painter, const QRectF& rect, const QString& legend, KeyC
     QColor ink(blue ? 0xffffff : 0x24262b);
     if (!enabled) {
         face = QColor(0x9a9ea6);
-        ink = QColor(0xe6e7ea);
+        ink = QColor(0x2f3338);
     }
     const qreal edge = std::max<qreal>(1, rect.height() / 16);
     const QRectF body = rect.adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);

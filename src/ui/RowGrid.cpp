@@ -1,5 +1,6 @@
 #include "ui/RowGrid.h"
 
+#include "ui/GridSpeech.h"
 #include "ui/Handler.h"
 #include "ui/Theme.h"
 
@@ -142,6 +143,7 @@ protected:
 RowGrid::RowGrid(QWidget* parent)
     : QTableView(parent)
     , model_(this) {
+    speakGrids();
     setModel(&model_);
     setItemDelegate(new CellPainter(this));
     setSelectionBehavior(SelectRows);
@@ -265,8 +267,18 @@ void RowGrid::goTo(int viewRow) {
 }
 
 void RowGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
+    // Past what the table would tell of it, which counts hidden columns too.
+    QAbstractItemView::currentChanged(current, previous);
+    tellFocus(*this, current);
     emit currentRecordChanged();
+}
+
+void RowGrid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QAbstractItemView::selectionChanged(selected, deselected);
+}
+
+int RowGrid::spokenColumn() const {
+    return spokenField_.isEmpty() ? -1 : model_.columnOf(spokenField_);
 }
 
 void RowGrid::keyPressEvent(QKeyEvent* event) {

@@ -42,6 +42,11 @@ public:
     void setWidthOf(int column, int width);
     /// Gives the columns that are shown the widths they have on first show.
     void fitColumns();
+    /// The field that a row is known by to a screen reader, such as its number; a list whose cells
+    /// are typed into needs none.
+    void setSpokenField(const QString& field) { spokenField_ = field; }
+    /// Its column; -1 without one.
+    int spokenColumn() const;
     /// After columns were hidden: highlight and keys want a current cell that is seen.
     void standOnShownColumn();
 
@@ -53,6 +58,8 @@ signals:
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -76,6 +83,7 @@ private:
     void goTo(int viewRow);
 
     RowSetModel model_;
+    QString spokenField_;
     int tickColumn_ = -1;
     bool columnsFitted_ = false;
 };

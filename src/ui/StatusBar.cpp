@@ -46,6 +46,8 @@ void StatusBar::setPanelText(int panel, const QString& text) {
 void StatusBar::setSpokenText(int panel, const QString& text) {
     panels_.at(panel).spoken = text;
     speak();
+    QAccessibleEvent told(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
 }
 
 QString StatusBar::spokenText(int panel) const {

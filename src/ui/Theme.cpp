@@ -22,13 +22,13 @@ constexpr double basePointSize = 11;
 QPalette calmPalette() {
     QPalette palette;
     const QColor text(0x1d, 0x2c, 0x36);
-    const QColor faint(0x8b, 0x98, 0xa1);
+    const QColor faint(0x72, 0x80, 0x8a);
     palette.setColor(QPalette::Window, QColor(0xf4, 0xf7, 0xf9));
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf0, 0xf5, 0xf8));
     palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x6b, 0x7a, 0x85));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x5f, 0x6d, 0x78));
     palette.setColor(QPalette::Button, QColor(0xe9, 0xef, 0xf3));
     palette.setColor(QPalette::ButtonText, text);
     palette.setColor(QPalette::ToolTipBase, QColor(0xfd, 0xf8, 0xe6));

@@ -56,6 +56,12 @@ TEST_F(KeyboardRoadTest, enterLeadsThroughTheBookingAndSavesItButDeletesNothing)
         });
         user.press(Qt::Key_Insert);
         EXPECT_EQ(orders().toInt(), before + 1);
+        EXPECT_EQ(user.message(),
+                  "Order " +
+                      Desk::suite("SELECT TOP(1) [CRONo] FROM CRORepMst ORDER BY [RecID] DESC") +
+                      " is booked in.");
+        user.press(Qt::Key_R, Qt::ControlModifier);
+        EXPECT_EQ(user.message(), "") << "it was read";
         user.expectForm(headerTitle, [&] {
             EXPECT_EQ(user.focus(), "btnSave");
             user.press(Qt::Key_Return);

@@ -8,6 +8,7 @@
 #include "support/ScriptedUser.h"
 #include "ui/FormBuilder.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -122,6 +123,20 @@ TEST_F(ListScreenTest, aListHasRoomAboveAndBesideItsGridAndItsOwnCode) {
         EXPECT_EQ(user.sees("edOrder"), "Alfa") << "the user stands on the first row by then";
         EXPECT_EQ(user.sees("dxExit"), "Exit");
         EXPECT_THROW(user.column("RecID"), std::runtime_error) << "hidden";
+        user.press(Qt::Key_Escape);
+    });
+}
+
+TEST_F(ListScreenTest, aScreenReaderHearsTheRowAndNoHiddenColumn) {
+    LineList list;
+    user.workIn(list, [&] {
+        auto* table = QAccessible::queryAccessibleInterface(&list.grid())->tableInterface();
+        EXPECT_EQ(table->columnCount(), 2) << "the third one is hidden";
+        EXPECT_EQ(table->columnDescription(1), "Model");
+        EXPECT_EQ(table->rowDescription(2), "3");
+        EXPECT_EQ(user.find<QWidget>("btnNew").accessibleDescription(), "Key F4");
+        list.grid().setColumnHidden(0, true);
+        EXPECT_EQ(table->cellAt(1, 0)->text(QAccessible::Name), "2, Model Beta");
         user.press(Qt::Key_Escape);
     });
 }

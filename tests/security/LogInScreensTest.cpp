@@ -232,7 +232,8 @@ TEST_F(LogInScreensTest, aBlankPasswordDateUnderExpiryIsAFaultAndTheScreenStays)
     TfrmCMN999 form;
     user.workIn(form, [&] {
         refusal(form, "NODATE", "NODATE");
-        EXPECT_EQ(faults, QStringList("'' is not a valid date"));
+        EXPECT_EQ(faults, QStringList("The day on which your password was set cannot be read. Ask "
+                                      "the system administrator."));
         EXPECT_TRUE(form.isVisible());
         refusal(form, "COUNTER1", "COUNTER");
     });

@@ -16,7 +16,10 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace {
 
@@ -85,6 +88,53 @@ QStringList namelessControls(QWidget& screen) {
         }
     }
     return nameless;
+}
+
+namespace {
+
+constexpr int childrenLookedAt = 200; // of a grid: its headings and first rows
+
+bool isNamed(const QAccessibleInterface& spoken) {
+    return !spoken.text(QAccessible::Name).trimmed().isEmpty() ||
+           !spoken.relations(QAccessible::Label).isEmpty();
+}
+
+void listen(QAccessibleInterface* spoken, QStringList& faults) {
+    if (spoken == nullptr || !spoken->isValid() || spoken->state().invisible) {
+        return;
+    }
+    const auto* widget = qobject_cast<const QWidget*>(spoken->object());
+    if (widget != nullptr && isPartOfControl(*widget)) {
+        return;
+    }
+    const auto role = spoken->role();
+    // What these hold are the controls.
+    const bool isArea = qobject_cast<const QAbstractScrollArea*>(spoken->object()) != nullptr ||
+                        qobject_cast<const QTabWidget*>(spoken->object()) != nullptr;
+    if (isControl(role) || (spoken->state().focusable && widget != nullptr)) {
+        const QString what = widget != nullptr ? described(*widget) : QStringLiteral("a part");
+        if (!isNamed(*spoken)) {
+            faults << what + QStringLiteral(": has no name");
+        }
+        if (role == QAccessible::NoRole || (role == QAccessible::Client && !isArea)) {
+            faults << what + QStringLiteral(": has no role");
+        }
+        const QString name = isControl(role) ? spoken->text(QAccessible::Name) : QString();
+        if (name.contains(QLatin1Char('&')) && !name.contains(QStringLiteral(" & "))) {
+            faults << what + QStringLiteral(": is called ") + name;
+        }
+    }
+    for (int i = 0; i < std::min(spoken->childCount(), childrenLookedAt); ++i) {
+        listen(spoken->child(i), faults);
+    }
+}
+
+} // namespace
+
+QStringList unspokenControls(QWidget& screen) {
+    QStringList faults;
+    listen(QAccessible::queryAccessibleInterface(&screen), faults);
+    return faults;
 }
 
 namespace {

@@ -9,6 +9,10 @@ class QWidget;
 /// Controls of the visible screen that say no name through the accessibility interface.
 QStringList namelessControls(QWidget& screen);
 
+/// What the accessibility interface tells of the visible screen, all the way down: each control has a
+/// name, without the mark of a short cut, and a role.
+QStringList unspokenControls(QWidget& screen);
+
 /// Buttons, labels and headings of the visible screen whose text does not fit, and controls that
 /// stick out of their parent or lie over each other.
 QStringList clippedControls(QWidget& screen);

@@ -12,5 +12,7 @@ public:
     QDialog& form() const { return dynamic_cast<QDialog&>(ScreenUser::form()); }
 
 protected:
+    /// Every screen that any test opens can be heard.
+    void met(QDialog& form) override;
     void fail(const QString& text) override;
 };

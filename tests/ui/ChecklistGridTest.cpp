@@ -156,8 +156,11 @@ TEST_F(ChecklistGridTest, AScreenReaderHearsWhatIsTickedAndWhatCanBeTyped) {
     EXPECT_EQ(table->cellAt(0, 0)->text(QAccessible::Name), "BAG not ticked");
     EXPECT_EQ(table->cellAt(1, 2)->text(QAccessible::Name), "Battery");
     EXPECT_TRUE(table->cellAt(1, 0)->state().checked);
-    EXPECT_EQ(table->cellAt(1, 3)->text(QAccessible::Description), "Can be typed over");
-    EXPECT_EQ(table->cellAt(1, 2)->text(QAccessible::Description), "");
+    EXPECT_EQ(table->cellAt(1, 3)->text(QAccessible::Description), "Notes. Can be typed over");
+    EXPECT_TRUE(table->cellAt(1, 3)->state().editable);
+    EXPECT_FALSE(table->cellAt(1, 2)->state().editable);
+    table->cellAt(0, 0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(ticked(), "BAG= BATT=charged");
     EXPECT_EQ(namelessControls(list), QStringList());
 }
 
