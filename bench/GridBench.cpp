@@ -23,14 +23,14 @@ namespace {
 
 constexpr int columns = 20;
 
-/// Bytes that the process holds in memory.
+/// What the process holds in memory of its own, without the files that it has mapped.
 double residentMB() {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }
     const QString text = QString::fromLatin1(status.readAll());
-    return text.section(QStringLiteral("VmRSS:"), 1)
+    return text.section(QStringLiteral("RssAnon:"), 1)
                .section(QStringLiteral("kB"), 0, 0)
                .toDouble() /
            1024;

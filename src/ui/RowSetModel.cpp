@@ -46,7 +46,7 @@ QDateTime dateOf(QString text) {
     const auto blank = text.indexOf(QLatin1Char(' '));
     const auto date = QDate::fromString(text.left(blank), Qt::ISODate);
     const auto time = blank < 0 ? QTime(0, 0) : QTime::fromString(text.mid(blank + 1), Qt::ISODate);
-    return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
+    return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
 }
 
 CellValue typedValue(const QString& text, CellType type) {
