@@ -75,8 +75,9 @@ private:
 
 void makeSeat(const QString& folder) {
     const int failed =
-        QProcess::execute(QStringLiteral(VELCRO_PROVISION), {folder, QStringLiteral(VELCRO_VELSQL),
-                                                             QStringLiteral(VELCRO_DEMO_PROGRAM)});
+        QProcess::execute(QStringLiteral(VELCRO_SAMPLE),
+                          {"--no-start", "--seat", folder, "--data", VELCRO_SAMPLE_DATA,
+                           "--structure", VELCRO_SAMPLE_STRUCTURE});
     if (failed != 0) {
         throw std::runtime_error("the sample seat could not be made");
     }

@@ -20,6 +20,7 @@
 
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -362,7 +363,7 @@ TEST_F(ProgramTest, anInstalledProgramWorksInTheUsersData) {
     const fs::path installed = (base + "/program").toStdString();
     fs::create_directory(installed);
     fs::copy_file(VELCRO_PROGRAM, installed / "velCRO");
-    fs::permissions(installed, fs::perms(0555));
+    std::ofstream(installed / "installed").flush(); // though its user may write there
     fs::create_directory((base + "/data").toStdString());
     fs::permissions((base + "/data").toStdString(), fs::perms(0777));
     const Ended end = run(QString::fromStdString((installed / "velCRO").string()), {});
@@ -370,6 +371,6 @@ TEST_F(ProgramTest, anInstalledProgramWorksInTheUsersData) {
     EXPECT_TRUE(end.said.contains("000-001 ")) << end.said.toStdString();
     EXPECT_EQ(QDir(base + "/data/velCRO").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name),
               (QStringList{"LOGS", "PDF", "SQL", "Session", "Temp", "Upgrades"}));
-    EXPECT_EQ(std::distance(fs::directory_iterator(installed), {}), 1);
-    fs::permissions(installed, fs::perms(0755));
+    EXPECT_EQ(std::distance(fs::directory_iterator(installed), {}), 2);
+    EXPECT_EQ(fs::status((base + "/data/velCRO").toStdString()).permissions(), fs::perms(0700));
 }

@@ -1,4 +1,4 @@
-// A sample seat as ./run makes it: through the script, velsql and the embedded end.
+// A sample seat as ./run and an installed program make it.
 #include "platform/sqlserver/SqlConnection.h"
 #include "support/TempFolder.h"
 
@@ -21,12 +21,14 @@ using velcro::test::TempFolder;
 namespace sql = velcro::sql;
 
 int run(const std::string& command) {
-    return std::system((command + " >/dev/null 2>&1").c_str());
+    return WEXITSTATUS(std::system((command + " >/dev/null 2>&1").c_str()));
 }
 
-int provision(const fs::path& seat) {
-    return run("\"" DEMO_FOLDER "/provision\" \"" + seat.string() +
-               "\" \"" VELSQL_PROGRAM "\" \"" VELCRO_DEMO_PROGRAM "\" 2026/03/01");
+int provision(const fs::path& seat, const std::string& more = {},
+              const fs::path& data = VELCRO_SAMPLE_DATA) {
+    return run("\"" VELCRO_SAMPLE "\" --no-start --today 2026/03/01 --seat \"" + seat.string() +
+               "\" --data \"" + data.string() + "\" --structure \"" VELCRO_SAMPLE_STRUCTURE "\" " +
+               more);
 }
 
 /// One seat for all tests that only look; its folder has a quote and a blank in its name.
@@ -70,30 +72,45 @@ TEST_F(ProvisionTest, MakesDatabasesAndAConfigurationForTheOwnerOnly) {
     const auto file = seat_ / "config/velmara/Common Files/Microsoft Shared/MSHelp16/MSHelp16.cnf";
     ASSERT_TRUE(fs::exists(file));
     const auto others = fs::perms::group_all | fs::perms::others_all;
-    EXPECT_EQ(fs::status(file).permissions() & others, fs::perms::none);
-    for (const auto& entry : fs::directory_iterator(seat_)) {
-        EXPECT_NE(entry.path().filename().string().front(), '.') << "work left behind";
+    for (const auto& path :
+         {seat_, seat_ / "databases", seat_ / "databases/VELSUITE.sqlite", file}) {
+        EXPECT_EQ(fs::status(path).permissions() & others, fs::perms::none) << path;
     }
+    EXPECT_EQ(std::distance(fs::directory_iterator(seat_), {}), 2) << "work left behind";
 }
 
-TEST_F(ProvisionTest, ASeatInUseIsLeftAsItIs) {
-    auto suite = connect("VELSUITE");
-    suite->execute("INSERT INTO SYSMessage ([CO], [MsgCode]) VALUES ('01', 'MINE')");
-    suite->disconnect();
-    EXPECT_EQ(provision(seat_), 0);
-    suite = connect("VELSUITE");
-    EXPECT_EQ(count(*suite, "SELECT COUNT(*) FROM SYSMessage WHERE [MsgCode] = 'MINE'"), 1);
-    suite->execute("DELETE FROM SYSMessage WHERE [MsgCode] = 'MINE'");
+TEST_F(ProvisionTest, ASeatInUseIsLeftAsItIsUnlessItIsToBeFresh) {
+    const TempFolder folder;
+    const fs::path seat = folder.path() / "seat";
+    fs::copy(seat_, seat, fs::copy_options::recursive);
+    std::ofstream(seat / "notes") << "mine";
+    const auto mine = [&](const char* statement) {
+        auto suite = sql::createConnection("embedded:");
+        suite->connect(
+            {.server = "embedded:" + (seat / "databases").string(), .database = "VELSUITE"});
+        suite->execute(statement);
+        return count(*suite, "SELECT COUNT(*) FROM SYSMessage WHERE [MsgCode] = 'MINE'");
+    };
+    EXPECT_EQ(mine("INSERT INTO SYSMessage ([CO], [MsgCode]) VALUES ('01', 'MINE')"), 1);
+    EXPECT_EQ(provision(seat), 0);
+    EXPECT_EQ(mine(""), 1);
+    EXPECT_EQ(provision(seat, "--fresh"), 0);
+    EXPECT_EQ(mine(""), 0);
+    EXPECT_TRUE(fs::exists(seat / "notes"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(seat), {}), 3) << "work left behind";
 }
 
 TEST_F(ProvisionTest, AFailureLeavesNothingBehind) {
     const TempFolder folder;
-    const std::string script = "\"" DEMO_FOLDER "/provision\" ";
     const auto seat = folder.path() / "seat";
-    EXPECT_NE(run(script + "\"" + seat.string() + "\" false \"" VELCRO_DEMO_PROGRAM "\""), 0);
-    EXPECT_NE(run(script + "\"" + seat.string() + "\" \"" VELSQL_PROGRAM "\" false"), 0);
+    fs::copy(VELCRO_SAMPLE_DATA, folder.path() / "data");
+    std::ofstream(folder.path() / "data/suite-99-wrong.sql")
+        << "INSERT INTO NoSuchTable VALUES (1)";
+    EXPECT_EQ(provision(seat, {}, folder.path() / "data"), 1);
+    EXPECT_EQ(provision(seat, {}, folder.path() / "nowhere"), 1);
     EXPECT_TRUE(fs::is_empty(seat));
-    EXPECT_NE(run(script + "\"" + seat.string() + "\""), 0);
+    EXPECT_EQ(provision(seat, "--today 2026/02/30"), 2);
+    EXPECT_EQ(provision(seat, "more"), 2);
 }
 
 TEST_F(ProvisionTest, StructureScriptsCanBeRunAgain) {
@@ -104,7 +121,7 @@ TEST_F(ProvisionTest, StructureScriptsCanBeRunAgain) {
     for (const auto& [database, prefix] : databases) {
         std::string command = "\"" VELSQL_PROGRAM "\" -b -S \"embedded:" + copy.string() + "\" -d ";
         command += database;
-        for (const auto& entry : fs::directory_iterator(DEPLOY_FOLDER)) {
+        for (const auto& entry : fs::directory_iterator(VELCRO_SAMPLE_STRUCTURE)) {
             if (entry.path().filename().string().starts_with(prefix)) {
                 command += " -i \"" + entry.path().string() + "\"";
             }

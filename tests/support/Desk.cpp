@@ -13,7 +13,6 @@
 
 #include <QDate>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -25,22 +24,15 @@ namespace velcro::test {
 
 namespace {
 
-const QStringList provisioners = {QStringLiteral(VELCRO_VELSQL),
-                                  QStringLiteral(VELCRO_DEMO_PROGRAM)};
-
 // Sample data stands around today and follows the scripts: other scripts, another template.
 QString templateName() {
     qint64 newest = 0;
-    QDirIterator scripts(QFileInfo(QStringLiteral(VELCRO_PROVISION)).path() + "/..",
-                         {"*.sql", "*.in", "provision"}, QDir::Files, QDirIterator::Subdirectories);
-    while (scripts.hasNext()) {
-        const QFileInfo script(scripts.next());
-        if (script.filePath().contains("/demo/") || script.filePath().contains("/deploy/")) {
-            newest = qMax(newest, script.lastModified().toSecsSinceEpoch());
-        }
+    QFileInfoList files = {QFileInfo(VELCRO_SAMPLE), QFileInfo(VELCRO_SWEEP)};
+    for (const char* folder : {VELCRO_SAMPLE_DATA, VELCRO_SAMPLE_STRUCTURE}) {
+        files += QDir(folder).entryInfoList(QDir::Files);
     }
-    for (const QString& program : provisioners + QStringList{QStringLiteral(VELCRO_SWEEP)}) {
-        newest = qMax(newest, QFileInfo(program).lastModified().toSecsSinceEpoch());
+    for (const QFileInfo& file : files) {
+        newest = qMax(newest, file.lastModified().toSecsSinceEpoch());
     }
     return QDate::currentDate().toString(QStringLiteral("yyyyMMdd-")) + QString::number(newest);
 }
@@ -61,7 +53,8 @@ void run(const QString& program, const QStringList& arguments) {
 void provision(const QString& folder) {
     const QString work = folder + ".work";
     QDir(work).removeRecursively();
-    run(QStringLiteral(VELCRO_PROVISION), QStringList{work} + provisioners);
+    run(QStringLiteral(VELCRO_SAMPLE), {"--no-start", "--seat", work, "--data", VELCRO_SAMPLE_DATA,
+                                        "--structure", VELCRO_SAMPLE_STRUCTURE});
     run(QStringLiteral(VELCRO_SWEEP),
         {"--run", "-S", "embedded:" + work + "/databases", "-d", "VELTILL"});
     QDir().rename(work, folder);

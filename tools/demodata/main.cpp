@@ -3,62 +3,16 @@
 // <server> is what the seat connects to, such as embedded:/srv/velcro/databases; the date stands for
 // today. User and password for the server come from VELCRO_SQL_USER and VELCRO_SQL_PASSWORD, since
 // everybody can read the arguments of a process.
-#include "Sample.h"
-#include "Template.h"
+#include "Scripts.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <functional>
 #include <iostream>
-#include <iterator>
 #include <span>
 #include <stdexcept>
 
-namespace fs = std::filesystem;
 using namespace velcro::demo;
 
 namespace {
-
-std::string readFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        throw std::runtime_error("cannot read " + path.string());
-    }
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void writeFile(const fs::path& path, const std::function<void(std::ostream&)>& write) {
-    std::ofstream out(path, std::ios::binary);
-    write(out);
-    out.close();
-    if (!out) {
-        throw std::runtime_error("cannot write " + path.string());
-    }
-}
-
-void fillInFolder(const fs::path& from, const fs::path& to, const SeatValues& values) {
-    for (const auto& entry : fs::directory_iterator(from)) {
-        const bool script = entry.path().extension() == ".sql";
-        const auto target = to / (script ? entry.path().filename() : entry.path().stem());
-        writeFile(target, [&](std::ostream& out) {
-            out << filledIn(readFile(entry.path()), values,
-                            script ? FileKind::Script : FileKind::Plain);
-        });
-    }
-}
-
-void generate(const fs::path& to, Day today) {
-    Sample sample(today);
-    const auto file = [&](const char* name, auto step) {
-        writeFile(to / name, [&](std::ostream& out) { step(sample, out); });
-    };
-    file("suite-60-calendar.sql", writeCalendar);
-    file("suite-65-workshop.sql", [](Sample&, std::ostream& out) { writeWorkshopCodes(out); });
-    file("suite-70-debtors.sql", writeDebtors);
-    file("suite-80-stock.sql", writeStock);
-    file("suite-90-orders.sql", writeOrders);
-}
 
 std::string environmentOr(const char* name, const char* fallback) {
     const char* value = std::getenv(name);
@@ -78,9 +32,7 @@ void run(std::span<char*> arguments) {
                             {{"SERVER", arguments[3]},
                              {"USER", environmentOr("VELCRO_SQL_USER", "velcro")},
                              {"PASSWORD", environmentOr("VELCRO_SQL_PASSWORD", "")}}};
-    fs::create_directories(arguments[2]);
-    fillInFolder(arguments[1], arguments[2], values);
-    generate(arguments[2], *when);
+    writeScripts(arguments[1], arguments[2], values);
 }
 
 } // namespace

@@ -18,11 +18,11 @@ struct Source
 
 struct CommandLine
 {
-    std::string server;
-    std::string database;
-    std::string user;
-    std::string password;
-    std::vector<Source> sources;
+    std::string server = {};
+    std::string database = {};
+    std::string user = {};
+    std::string password = {};
+    std::vector<Source> sources = {};
     bool stopAtError = false;
     bool help = false;
 };

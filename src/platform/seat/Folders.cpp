@@ -21,12 +21,20 @@ void setProgramFilesRoots(const QStringList& roots) {
 QString workingFolder(const QString& programFile) {
     const QFileInfo program(programFile);
     QString folder = program.absolutePath();
-    if (!QFileInfo(folder).isWritable()) {
+    if (isInstalled(programFile) || !QFileInfo(folder).isWritable()) {
         folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                  QLatin1Char('/') + program.completeBaseName();
-        QDir().mkpath(folder);
+        makePrivateFolder(folder);
     }
     return QDir::cleanPath(folder) + QLatin1Char('/');
+}
+
+bool isInstalled(const QString& programFile) {
+    return QFileInfo::exists(QFileInfo(programFile).absolutePath() + QLatin1String("/installed"));
+}
+
+bool makePrivateFolder(const QString& path) {
+    return system::makePrivateFolder(path);
 }
 
 QString nativePath(const QString& path) {

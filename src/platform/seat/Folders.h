@@ -12,9 +12,18 @@ namespace velcro::seat {
 /// folder ($XDG_CONFIG_HOME, else ~/.config).
 QStringList programFilesRoots();
 
-/// The program's own folder where it can be written, else the program's folder among the user's
-/// data ($XDG_DATA_HOME, else ~/.local/share), which is made. Ends in a separator.
+/// The program's own folder where it can be written and the program is not an installed one, else the
+/// program's folder among the user's data ($XDG_DATA_HOME, else ~/.local/share), which is made and
+/// closed to everybody else. Ends in a separator.
 QString workingFolder(const QString& programFile);
+
+/// Whether a setup put the program where it stands: the file "installed" lies beside it. Nothing is
+/// written beside such a program, whatever its user may do there.
+bool isInstalled(const QString& programFile);
+
+/// Makes the folder, and those above it, so that its owner alone can look into it; one that is there
+/// is closed to others. False when it cannot be made.
+bool makePrivateFolder(const QString& path);
 
 /// A path with "\" or "/" between its folders, with the separators of this system.
 QString nativePath(const QString& path);
@@ -24,6 +33,7 @@ void setProgramFilesRoots(const QStringList& roots);
 
 namespace system {
 QStringList programFilesRoots();
-}
+bool makePrivateFolder(const QString& path);
+} // namespace system
 
 } // namespace velcro::seat

@@ -12,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 using namespace velcro;
 
 namespace {
@@ -78,7 +81,14 @@ TEST(SeatTest, aProgramInAFolderItMayNotWriteWorksInTheUsersData) {
     qputenv("XDG_DATA_HOME", data.toUtf8());
     // Not even root writes here, and no folder of that name can be made.
     EXPECT_EQ(seat::workingFolder("/proc/velCRO/velCRO"), data + "/velCRO/");
-    EXPECT_TRUE(QFileInfo(data + "/velCRO").isDir());
+    const auto others = std::filesystem::perms::group_all | std::filesystem::perms::others_all;
+    const std::filesystem::path made = folder.path() / "data/velCRO";
+    EXPECT_EQ(std::filesystem::status(made).permissions() & others, std::filesystem::perms::none);
+    // One that an earlier version left open is closed.
+    std::filesystem::permissions(made, std::filesystem::perms(0755));
+    std::ofstream(folder.path() / "installed").flush();
+    EXPECT_EQ(seat::workingFolder(own + "/velCRO"), data + "/velCRO/");
+    EXPECT_EQ(std::filesystem::status(made).permissions() & others, std::filesystem::perms::none);
     qunsetenv("XDG_DATA_HOME");
 }
 

@@ -17,7 +17,7 @@ namespace {
 using velcro::test::TempFolder;
 
 int generate(const fs::path& out, const std::string& more) {
-    const std::string command = "\"" VELCRO_DEMO_PROGRAM "\" \"" DEMO_FOLDER "/data\" \"" +
+    const std::string command = "\"" VELCRO_DEMO_PROGRAM "\" \"" VELCRO_SAMPLE_DATA "\" \"" +
                                 out.string() + "\" " + more + " 2>\"" + out.string() + ".errors\"";
     return std::system(command.c_str());
 }
