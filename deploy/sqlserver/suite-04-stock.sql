@@ -246,6 +246,10 @@ GO
 IF NOT EXISTS (SELECT [name] FROM sys.indexes WHERE [name] = 'STKMaster_idx05')
     CREATE NONCLUSTERED INDEX [STKMaster_idx05] ON [dbo].[STKMaster] ([CO], [Branch], [Description1]);
 GO
+-- The screen of a quotation line compares the branch as a number, which no key that begins with it serves.
+IF NOT EXISTS (SELECT [name] FROM sys.indexes WHERE [name] = 'STKMaster_idx06')
+    CREATE NONCLUSTERED INDEX [STKMaster_idx06] ON [dbo].[STKMaster] ([CO], [StockCode], [LinkCode], [Branch]);
+GO
 
 -- On-hand quantity of a stock code by warehouse.
 IF NOT EXISTS (SELECT TABLE_NAME FROM INFORMATION_SCHEMA.TABLES WHERE TABLE_NAME = 'STKBalance')
@@ -366,7 +370,7 @@ IF NOT EXISTS (SELECT [name] FROM sys.indexes WHERE [name] = 'STKAltSuppliers_id
     CREATE NONCLUSTERED INDEX [STKAltSuppliers_idx01] ON [dbo].[STKAltSuppliers] ([CO], [Branch], [StockCode], [LinkCode]);
 GO
 IF NOT EXISTS (SELECT [name] FROM sys.indexes WHERE [name] = 'STKAltSuppliers_idx02')
-    CREATE NONCLUSTERED INDEX [STKAltSuppliers_idx02] ON [dbo].[STKAltSuppliers] ([CO], [Branch], [LinkCode]);
+    CREATE NONCLUSTERED INDEX [STKAltSuppliers_idx02] ON [dbo].[STKAltSuppliers] ([CO], [Branch], [LinkCode], [StockCode]);
 GO
 IF NOT EXISTS (SELECT [name] FROM sys.indexes WHERE [name] = 'STKAltSuppliers_idx03')
     CREATE NONCLUSTERED INDEX [STKAltSuppliers_idx03] ON [dbo].[STKAltSuppliers] ([CO], [Branch], [SuppCode], [Account]);
