@@ -40,4 +40,9 @@ install(FILES ${CMAKE_BINARY_DIR}/installed DESTINATION ${VELCRO_PROGRAM_FOLDER}
 install(DIRECTORY demo/data/ DESTINATION ${VELCRO_DATA_FOLDER}/sample)
 install(DIRECTORY deploy/sqlserver DESTINATION ${VELCRO_DATA_FOLDER})
 install(DIRECTORY docs/ DESTINATION ${VELCRO_DOC_FOLDER})
+install(FILES CHANGELOG.md NOTICES DESTINATION ${VELCRO_DOC_FOLDER})
+if(WIN32) # elsewhere the system has them
+  install(DIRECTORY /usr/share/common-licenses/ DESTINATION licences
+    FILES_MATCHING REGEX "/(LGPL-3|GPL-3|LGPL-2\\.1)$")
+endif()
 install(FILES demo/README.md DESTINATION ${VELCRO_DOC_FOLDER} RENAME sample-databases.md)

@@ -359,6 +359,21 @@ TEST_F(ProgramTest, thePasswordIsGoneFromTheListOfPrograms) {
     EXPECT_TRUE(process.waitForFinished(60'000));
 }
 
+TEST_F(ProgramTest, tellsOfItselfWhereThereIsNoScreen) {
+    for (const auto& [asked, answered] : {std::pair("--version", "velCRO 14."),
+                                          std::pair("--notices", "Lesser General Public License"),
+                                          std::pair("--help", "usage: velCRO")}) {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "none of them");
+        process.setProcessEnvironment(environment);
+        process.start(VELCRO_PROGRAM, {asked});
+        ASSERT_TRUE(process.waitForFinished(60'000)) << asked;
+        EXPECT_EQ(process.exitCode(), 0) << asked;
+        EXPECT_TRUE(process.readAllStandardOutput().contains(answered)) << asked;
+    }
+}
+
 TEST_F(ProgramTest, anInstalledProgramWorksInTheUsersData) {
     const fs::path installed = (base + "/program").toStdString();
     fs::create_directory(installed);

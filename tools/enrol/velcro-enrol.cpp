@@ -3,10 +3,13 @@
 #include "Enrolment.h"
 #include "Storage.h"
 
+#include "platform/about/About.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
 #include <exception>
+#include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
 using velcro::fingerprint::Family;
@@ -26,6 +29,7 @@ const char* const usage =
     "  --mask    finger mask\n"
     "  --print   writes the template's text and nothing into a database\n"
     "  -S -d -U -P  as velsql; the password better in VELSQL_PASSWORD\n"
+    "  --version, --notices  the version; the libraries it stands on and their licences\n"
     "Exit status: 0 done, 1 not done, 2 wrong usage.\n";
 
 constexpr int wrongUsage = 2;
@@ -84,6 +88,9 @@ void enrol(const QCommandLineParser& line, QTextStream& out, QTextStream& progre
 } // namespace
 
 int main(int argc, char** argv) {
+    if (velcro::about::answer(argc, argv, std::cout)) {
+        return 0;
+    }
     const QCoreApplication application(argc, argv);
     QTextStream out(stdout), problems(stderr);
     QCommandLineParser line;

@@ -17,6 +17,7 @@ const char* const usage =
     "           that need no database answer\n"
     "  -P       password; better in VELCRO_PASSWORD, where other users do not see it\n"
     "  -d       name of the database at log-in; without it the first that is offered\n"
+    "  --version, --notices  the version; the libraries it stands on and their licences\n"
     "Exit status: 0 the function answered, 1 it failed or nobody could sign in, 2 wrong usage.\n";
 
 std::optional<Options> readOptions(const QStringList& line, const QString& environmentPassword,

@@ -1,12 +1,18 @@
 // velcro-report: prints what a function answers to a report template.
 #include "Answering.h"
 
+#include "platform/about/About.h"
+
 #include <QCoreApplication>
 
 #include <cstdio>
 #include <exception>
+#include <iostream>
 
 int main(int argc, char** argv) {
+    if (velcro::about::answer(argc, argv, std::cout)) {
+        return 0;
+    }
     using namespace velcro::report;
     const QCoreApplication application(argc, argv);
     QTextStream out(stdout), problems(stderr);

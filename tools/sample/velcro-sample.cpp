@@ -2,6 +2,7 @@
 // on it.
 #include "Seat.h"
 
+#include "platform/about/About.h"
 #include "platform/seat/Programs.h"
 
 #include <QCommandLineParser>
@@ -28,6 +29,7 @@ const char* const usage =
     "  --today      the day that the sample data stands around; today without it\n"
     "  --data       where the sample data is, when it is not the installed one\n"
     "  --structure  where the scripts of the databases' structure are, likewise\n"
+    "  --version, --notices  the version; the libraries it stands on and their licences\n"
     "Exit status: that of velCRO; 1 when the seat could not be made, 2 wrong usage.\n";
 
 constexpr int wrongUsage = 2;
@@ -92,6 +94,9 @@ int openProgram(const QString& seat) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (velcro::about::answer(argc, argv, std::cout)) {
+        return 0;
+    }
     const QCoreApplication application(argc, argv);
     QCommandLineParser line;
     for (const QString& name : {u"seat"_s, u"today"_s, u"data"_s, u"structure"_s}) {

@@ -20,6 +20,7 @@ const char* const usage =
     "  -d       database of the till\n"
     "  -U       user; without one the seat's own account, where the driver knows it\n"
     "  -P       password; better in VELSQL_PASSWORD, where other users do not see it\n"
+    "  --version, --notices  the version; the libraries it stands on and their licences\n"
     "Exit status: 0 the sweep went to its end, 1 it did not, 2 wrong usage.\n";
 
 std::optional<CommandLine> parseCommandLine(const QStringList& arguments,

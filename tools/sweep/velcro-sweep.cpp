@@ -2,12 +2,18 @@
 #include "CommandLine.h"
 #include "Sweep.h"
 
+#include "platform/about/About.h"
+
 #include <QCoreApplication>
 
 #include <cstdio>
 #include <exception>
+#include <iostream>
 
 int main(int argc, char** argv) {
+    if (velcro::about::answer(argc, argv, std::cout)) {
+        return 0;
+    }
     using namespace velcro::sweep;
     const QCoreApplication application(argc, argv);
     QTextStream out(stdout), problems(stderr);

@@ -16,6 +16,7 @@ const char* const usage =
     "  -i  file to run; may be given several times, also mixed with -Q, and runs in this order\n"
     "  -Q  text to run; without -i and -Q standard input is read\n"
     "  -b  stop at the first batch that fails\n"
+    "  --version, --notices  the version; the libraries it stands on and their licences\n"
     "Exit status: 0 all batches ran, 1 a batch failed or there was no connection, 2 wrong usage.\n";
 
 namespace {

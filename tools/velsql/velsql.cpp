@@ -2,12 +2,17 @@
 #include "CommandLine.h"
 #include "Session.h"
 
+#include "platform/about/About.h"
+
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 
 int main(int argc, char** argv) {
     using namespace velcro::velsql;
+    if (velcro::about::answer(argc, argv, std::cout)) {
+        return 0;
+    }
     std::ios::sync_with_stdio(false);
     std::string problem;
     const std::span<const char* const> arguments(argv + 1, static_cast<std::size_t>(argc - 1));
