@@ -70,6 +70,7 @@ Program::Program(const QStringList& arguments)
     : mainForm_([this, arguments] { return startUp(stepsFor(mainForm_), arguments); }) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(velcro::ui::icon(QStringLiteral("product-logo")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.velmara.velcro")); // its menu entry
     connectPrompts();
     watchDatabaseWaits();
     watchServiceWaits();
