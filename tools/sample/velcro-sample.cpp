@@ -3,6 +3,7 @@
 #include "Seat.h"
 
 #include "platform/about/About.h"
+#include "platform/seat/Folders.h"
 #include "platform/seat/Programs.h"
 
 #include <QCommandLineParser>
@@ -74,6 +75,7 @@ QString problemOf(const QCommandLineParser& line, velcro::sample::Request& reque
 
 /// The program finds the seat's configuration where it looks for the user's own.
 int openProgram(const QString& seat) {
+    velcro::seat::makePrivateFolder(seat + "/data");
     QProcess process;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_s, seat + "/config");
