@@ -13,20 +13,25 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 find_program(MOLD mold)
-if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
   add_link_options(-fuse-ld=mold)
 endif()
 
 if(NOT MSVC)
-  add_compile_options(-Wall -Wextra -Werror)
+  add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror>")
   if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-fpch-preprocess)
+    add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
   endif()
 endif()
 
 # Optimising, gcc 12 takes the joining of short strings for copies without bounds.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  add_compile_options("$<$<CONFIG:Release>:-Wno-restrict;-Wno-stringop-overflow;-Wno-array-bounds>")
+  add_compile_options("$<$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:CXX>>:-Wno-restrict;-Wno-stringop-overflow;-Wno-array-bounds>")
+endif()
+
+if(WIN32)
+  # Windows 10 is the oldest system that a seat runs.
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
 endif()
 
 if(VELCRO_SANITIZE)

@@ -37,7 +37,7 @@ QSize screenSize() {
 }
 
 void startKeyboard(const QString& path) {
-    if (!velcro::seat::isKeyboardRunning(path)) {
+    if (!velcro::seat::showRunningKeyboard(path)) {
         velcro::seat::startProgram(path, {});
     }
 }

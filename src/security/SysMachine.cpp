@@ -1,6 +1,7 @@
 #include "security/SysMachine.h"
 
 #include "platform/seat/MachineIdentity.h"
+#include "platform/seat/ProgramVersion.h"
 
 #include <QStringList>
 #include <QVersionNumber>
@@ -43,7 +44,8 @@ QString addressThatCounts(const QStringList& addresses) {
 }
 
 QString sm_Version() {
-    return versionText(QStringLiteral(VELCRO_VERSION));
+    const QString own = seat::programFileVersion();
+    return versionText(own.isEmpty() ? QStringLiteral(VELCRO_VERSION) : own);
 }
 
 QString versionText(const QString& dotted) {

@@ -1,40 +1,16 @@
 #include "ui/Icons.h"
 
 #include "ui/DrawnIcon.h"
+#include "ui/Picture.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
-#include <QSvgRenderer>
-
-/// Pictures of a static library are known only once they are asked for.
-static void registerPictures() {
-    Q_INIT_RESOURCE(icons);
-}
 
 namespace velcro::ui {
 
 namespace {
-
-QByteArray source(const QString& name) {
-    registerPictures();
-    QFile file(QStringLiteral(":/velcro/icons/%1.svg").arg(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QRectF fitted(const QSizeF& picture, const QRectF& rect, Qt::AspectRatioMode fit) {
-    const QSizeF size = picture.scaled(rect.size(), fit);
-    return {rect.center() - QPointF(size.width() / 2, size.height() / 2), size};
-}
-
-void render(QPainter& painter, const QByteArray& svg, const QRectF& rect, Qt::AspectRatioMode fit) {
-    QSvgRenderer renderer(svg);
-    if (renderer.isValid()) {
-        renderer.render(&painter, fitted(renderer.viewBoxF().size(), rect, fit));
-    }
-}
 
 QColor inkFor(QIcon::Mode mode, const QColor& own) {
     const QPalette palette = QGuiApplication::palette();
@@ -55,14 +31,11 @@ QIcon icon(const QString& name) {
 }
 
 QIcon icon(const QString& name, const QColor& color) {
-    const QByteArray svg = source(name);
-    if (svg.isEmpty()) {
+    if (!hasPicture(name)) {
         return {};
     }
-    return drawnIcon([svg, color](QPainter& painter, const QRectF& rect, QIcon::Mode mode) {
-        QByteArray inked = svg;
-        inked.replace("currentColor", inkFor(mode, color).name().toLatin1());
-        render(painter, inked, rect, Qt::KeepAspectRatio);
+    return drawnIcon([name, color](QPainter& painter, const QRectF& rect, QIcon::Mode mode) {
+        renderPicture(painter, name, rect, Qt::KeepAspectRatio, inkFor(mode, color));
     });
 }
 
@@ -84,7 +57,7 @@ void paintPicture(QPainter& painter, const QString& name, const QRectF& rect,
         picture.fill(Qt::transparent);
         QPainter drawing(&picture);
         drawing.setRenderHint(QPainter::Antialiasing);
-        render(drawing, source(name), QRectF(QPointF(), rect.size()), fit);
+        renderPicture(drawing, name, QRectF(QPointF(), rect.size()), fit);
         drawing.end();
         QPixmapCache::insert(key, picture);
     }

@@ -6,6 +6,9 @@
 #include "platform/seat/WindowsApi.h"
 
 #include <array>
+#include <vector>
+
+#include <iphlpapi.h>
 #include <nb30.h>
 
 namespace velcro::seat {
@@ -51,6 +54,26 @@ struct Sockets
     bool started = false;
 };
 
+// Seats whose NetBIOS is turned off have adapters all the same.
+QStringList adaptersOfTheSystem() {
+    std::vector<char> room(64 * 1024);
+    auto* list = reinterpret_cast<IP_ADAPTER_ADDRESSES*>(room.data());
+    ULONG size = ULONG(room.size());
+    constexpr ULONG flags =
+        GAA_FLAG_SKIP_ANYCAST | GAA_FLAG_SKIP_MULTICAST | GAA_FLAG_SKIP_DNS_SERVER;
+    QStringList result;
+    if (GetAdaptersAddresses(AF_UNSPEC, flags, nullptr, list, &size) == NO_ERROR) {
+        for (const auto* it = list; it; it = it->Next) {
+            const QByteArray address(reinterpret_cast<const char*>(it->PhysicalAddress),
+                                     int(it->PhysicalAddressLength));
+            if (it->IfType != IF_TYPE_SOFTWARE_LOOPBACK && !adapterText(address).isEmpty()) {
+                result.append(adapterText(address));
+            }
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 QStringList adapterAddresses() {
@@ -68,7 +91,7 @@ QStringList adapterAddresses() {
             }
         }
     }
-    return result;
+    return result.isEmpty() ? adaptersOfTheSystem() : result;
 }
 
 std::optional<std::uint32_t> volumeSerial() {

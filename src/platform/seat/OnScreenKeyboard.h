@@ -10,7 +10,8 @@ QString touchKeyboard();
 QString onScreenKeyboard();
 /// Whether the seat has one of them.
 bool hasKeyboard();
-/// Whether this keyboard is there already, and starting it would bring a second one.
-bool isKeyboardRunning(const QString& path);
+/// Brings up this keyboard where it runs already, so that starting it would bring a second one or
+/// nothing; false when it is to be started.
+bool showRunningKeyboard(const QString& path);
 
 } // namespace velcro::seat

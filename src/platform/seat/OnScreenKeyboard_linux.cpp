@@ -38,8 +38,9 @@ bool hasKeyboard() {
     return !touchKeyboard().isEmpty() || !onScreenKeyboard().isEmpty();
 }
 
-// By the first two words of each process: some are scripts that an interpreter runs.
-bool isKeyboardRunning(const QString& path) {
+// One that runs is on the screen. It is known by the first two words of each process: some are scripts
+// that an interpreter runs.
+bool showRunningKeyboard(const QString& path) {
     const auto name = QFileInfo(path).fileName();
     const auto processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
     return std::any_of(processes.begin(), processes.end(), [&name](const QString& process) {

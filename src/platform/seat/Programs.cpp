@@ -1,7 +1,6 @@
 #include "platform/seat/Programs.h"
 
 #include <QCoreApplication>
-#include <QProcess>
 #include <QStandardPaths>
 
 #include <utility>
@@ -16,12 +15,8 @@ QString findOnSeat(const QString& name) {
     return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
 }
 
-bool startOnSeat(const QString& path, const QStringList& arguments) {
-    return QProcess::startDetached(path, arguments);
-}
-
 ProgramFinder finderInUse = findOnSeat;
-ProgramStarter starterInUse = startOnSeat;
+ProgramStarter starterInUse = system::startProgram;
 
 } // namespace
 
@@ -38,7 +33,7 @@ void setProgramFinder(ProgramFinder finder) {
 }
 
 void setProgramStarter(ProgramStarter starter) {
-    starterInUse = starter ? std::move(starter) : startOnSeat;
+    starterInUse = starter ? std::move(starter) : system::startProgram;
 }
 
 } // namespace velcro::seat

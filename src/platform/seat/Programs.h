@@ -21,4 +21,8 @@ using ProgramStarter = std::function<bool(const QString& path, const QStringList
 void setProgramFinder(ProgramFinder finder);
 void setProgramStarter(ProgramStarter starter);
 
+namespace system {
+bool startProgram(const QString& path, const QStringList& arguments);
+}
+
 } // namespace velcro::seat

@@ -1,0 +1,9 @@
+#include "platform/seat/ProgramVersion.h"
+
+namespace velcro::seat {
+
+QString programFileVersion() {
+    return {};
+}
+
+} // namespace velcro::seat
