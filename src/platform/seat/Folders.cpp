@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace velcro::seat {
 
@@ -21,9 +20,8 @@ void setProgramFilesRoots(const QStringList& roots) {
 QString workingFolder(const QString& programFile) {
     const QFileInfo program(programFile);
     QString folder = program.absolutePath();
-    if (isInstalled(programFile) || !QFileInfo(folder).isWritable()) {
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                 QLatin1Char('/') + program.completeBaseName();
+    if (isInstalled(programFile) || !system::canWriteIn(folder)) {
+        folder = system::userData() + QLatin1Char('/') + program.completeBaseName();
         makePrivateFolder(folder);
     }
     return QDir::cleanPath(folder) + QLatin1Char('/');

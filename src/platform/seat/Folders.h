@@ -8,8 +8,8 @@ namespace velcro::seat {
 
 /// The two folders that programs of the suite share their settings in, in the order in which they
 /// are looked at; the later one wins where both exist. On Windows "C:\Program Files" and
-/// "C:\Program Files (x86)"; elsewhere /opt/velmara and velmara below the user's configuration
-/// folder ($XDG_CONFIG_HOME, else ~/.config).
+/// "C:\Program Files (x86)", or, where it is set, velmara below $XDG_CONFIG_HOME; elsewhere
+/// /opt/velmara and velmara below the user's configuration folder ($XDG_CONFIG_HOME, else ~/.config).
 QStringList programFilesRoots();
 
 /// The program's own folder where it can be written and the program is not an installed one, else the
@@ -33,6 +33,8 @@ void setProgramFilesRoots(const QStringList& roots);
 
 namespace system {
 QStringList programFilesRoots();
+QString userData();
+bool canWriteIn(const QString& folder);
 bool makePrivateFolder(const QString& path);
 } // namespace system
 

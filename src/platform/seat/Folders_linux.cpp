@@ -12,6 +12,14 @@ QStringList programFilesRoots() {
                 QLatin1String("/velmara")};
 }
 
+QString userData() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+bool canWriteIn(const QString& folder) {
+    return QFileInfo(folder).isWritable();
+}
+
 bool makePrivateFolder(const QString& path) {
     const QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     QDir().mkpath(QFileInfo(path).path());
