@@ -1,16 +1,9 @@
 #include "support/BadNetwork.h"
 
-#include "support/Loopback.h"
+#include "support/Sockets.h"
 
 #include <deque>
-#include <system_error>
 #include <vector>
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace velcro::test {
 
@@ -24,10 +17,6 @@ sockaddr_in addressOf(const std::string& host, int port) {
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     inet_pton(AF_INET, host.c_str(), &address.sin_addr);
     return address;
-}
-
-[[noreturn]] void fail(const char* what) {
-    throw std::system_error(errno, std::generic_category(), what);
 }
 
 } // namespace
@@ -58,9 +47,6 @@ BadNetwork::BadNetwork(const std::string& server)
     const auto [socket, port] = listenOnLoopback();
     listener_ = socket;
     port_ = port;
-    if (pipe(wake_) != 0) {
-        fail("no network on loopback");
-    }
     thread_ = std::thread([this] { serve(); });
 }
 
@@ -69,11 +55,9 @@ BadNetwork::~BadNetwork() {
         const std::lock_guard lock(mutex_);
         over_ = true;
     }
-    wake();
+    bell_.ring();
     thread_.join();
-    for (const int descriptor : {wake_[0], wake_[1], listener_}) {
-        close(descriptor);
-    }
+    closeSocket(listener_);
 }
 
 std::string BadNetwork::address() const {
@@ -110,7 +94,7 @@ void BadNetwork::cut() {
             link.broken = true;
         }
     }
-    wake();
+    bell_.ring();
 }
 
 int BadNetwork::requests() const {
@@ -123,14 +107,9 @@ void BadNetwork::waitForRequests(int count) {
     came_.wait(lock, [&] { return requests_ >= count; });
 }
 
-void BadNetwork::wake() {
-    const char byte = 0;
-    [[maybe_unused]] const auto written = write(wake_[1], &byte, 1);
-}
-
 void BadNetwork::acceptLink() {
-    const int client = accept(listener_, nullptr, nullptr);
-    const int server = socket(AF_INET, SOCK_STREAM, 0);
+    const int client = static_cast<int>(accept(listener_, nullptr, nullptr));
+    const int server = openSocket();
     auto address = addressOf(host_, serverPort_);
     const bool reached =
         connect(server, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
@@ -182,7 +161,7 @@ int BadNetwork::forwardDue() {
     for (auto& link : links_) {
         while (!link.onTheirWay.empty() && link.onTheirWay.front().due <= now) {
             const auto& [due, fromClient, bytes] = link.onTheirWay.front();
-            ::send(link.end(!fromClient), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+            ::send(link.end(!fromClient), bytes.data(), bytes.size(), sendFlags);
             link.onTheirWay.pop_front();
         }
         if (!link.onTheirWay.empty()) {
@@ -197,14 +176,14 @@ int BadNetwork::forwardDue() {
 void BadNetwork::serve() {
     std::unique_lock lock(mutex_);
     while (!over_) {
-        std::vector<pollfd> waits = {{listener_, POLLIN, 0}, {wake_[0], POLLIN, 0}};
+        std::vector<pollfd> waits = {toRead(listener_), toRead(bell_.socket())};
         for (const auto& link : links_) {
-            waits.push_back({link.client, POLLIN, 0});
-            waits.push_back({link.server, POLLIN, 0});
+            waits.push_back(toRead(link.client));
+            waits.push_back(toRead(link.server));
         }
         const int wait = forwardDue();
         lock.unlock();
-        poll(waits.data(), waits.size(), wait);
+        waitFor(waits.data(), waits.size(), wait);
         lock.lock();
         std::size_t at = 2;
         for (auto& link : links_) {
@@ -217,13 +196,13 @@ void BadNetwork::serve() {
         if (waits[0].revents != 0) {
             acceptLink();
         }
-        if (char byte = 0; waits[1].revents != 0) {
-            [[maybe_unused]] const auto count = ::read(wake_[0], &byte, 1);
+        if (waits[1].revents != 0) {
+            bell_.hush();
         }
         links_.remove_if([this](const Link& link) {
             if (link.broken || over_) {
-                close(link.client);
-                close(link.server);
+                closeSocket(link.client);
+                closeSocket(link.server);
             }
             return link.broken || over_;
         });

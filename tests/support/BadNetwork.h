@@ -2,6 +2,8 @@
 // cuts and stalls.
 #pragma once
 
+#include "support/Sockets.h"
+
 #include <chrono>
 #include <condition_variable>
 #include <list>
@@ -48,7 +50,6 @@ private:
     void read(Link& link, bool fromClient);
     bool countRequests(Link& link, const std::string& bytes);
     int forwardDue();
-    void wake();
 
     mutable std::mutex mutex_;
     std::condition_variable came_;
@@ -63,7 +64,7 @@ private:
     std::string host_;
     int serverPort_ = 0;
     int listener_ = -1;
-    int wake_[2] = {-1, -1};
+    Bell bell_;
     int port_ = 0;
     std::thread thread_;
 };

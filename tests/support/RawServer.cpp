@@ -1,10 +1,8 @@
 #include "support/RawServer.h"
 
-#include "support/Loopback.h"
+#include "support/Sockets.h"
 
 #include <algorithm>
-
-#include <unistd.h>
 
 namespace velcro::test {
 
@@ -18,7 +16,7 @@ std::size_t lengthOf(const std::string& headers) {
 
 bool sendAll(int client, std::string_view bytes) {
     while (!bytes.empty()) {
-        const auto sent = ::send(client, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        const auto sent = ::send(client, bytes.data(), bytes.size(), sendFlags);
         if (sent <= 0) {
             return false;
         }
@@ -34,17 +32,13 @@ RawServer::RawServer(Answer answer)
     const auto [socket, port] = listenOnLoopback();
     listener_ = socket;
     port_ = port;
-    if (pipe(wake_) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no pipe");
-    }
     thread_ = std::thread([this] { serve(); });
 }
 
 RawServer::~RawServer() {
-    close(wake_[1]);
+    bell_.end();
     thread_.join();
-    close(wake_[0]);
-    close(listener_);
+    closeSocket(listener_);
 }
 
 std::vector<std::string> RawServer::requests() const {
@@ -63,14 +57,14 @@ std::string RawServer::whole(const std::string& body, const std::string& status)
 }
 
 void RawServer::serve() {
-    while (readable(listener_, wake_[0])) {
-        const int client = accept(listener_, nullptr, nullptr);
+    while (readable(listener_, bell_)) {
+        const int client = static_cast<int>(accept(listener_, nullptr, nullptr));
         {
             const std::lock_guard lock(mutex_);
             ++connections_;
         }
         serveClient(client);
-        close(client);
+        closeSocket(client);
     }
 }
 
@@ -92,7 +86,7 @@ void RawServer::serveClient(int client) {
             return;
         }
         if (reply.then == Reply::Stall) {
-            readable(client, wake_[0]); // its end, or the test's
+            readable(client, bell_); // its end, or the test's
             return;
         }
     }
@@ -107,7 +101,7 @@ std::string RawServer::readRequest(int client) const {
         if (end != std::string::npos && bytes.size() >= end + 4 + lengthOf(bytes.substr(0, end))) {
             return bytes;
         }
-        const auto count = readable(client, wake_[0]) ? recv(client, buffer, sizeof buffer, 0) : 0;
+        const auto count = readable(client, bell_) ? recv(client, buffer, sizeof buffer, 0) : 0;
         if (count <= 0) {
             return {};
         }
@@ -120,8 +114,8 @@ void RawServer::sendReply(int client, const Reply& reply) const {
     const std::string part(reply.pause > 0 ? 1 : 64 * 1024, 'x');
     for (auto left = reply.filling; left > 0;) {
         const auto size = std::min<std::uint64_t>(left, part.size());
-        pollfd over = {wake_[0], POLLIN, 0};
-        if (poll(&over, 1, reply.pause) != 0 ||
+        pollfd over = toRead(bell_.socket());
+        if (waitFor(&over, 1, reply.pause) != 0 ||
             !sendAll(client, std::string_view(part).substr(0, size))) {
             return;
         }

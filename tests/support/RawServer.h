@@ -2,6 +2,8 @@
 // whole answers, halves, none, and more than anybody wants.
 #pragma once
 
+#include "support/Sockets.h"
+
 #include <cstdint>
 #include <functional>
 #include <mutex>
@@ -55,7 +57,7 @@ private:
     std::vector<std::string> requests_;
     int connections_ = 0;
     int listener_ = -1;
-    int wake_[2] = {-1, -1};
+    Bell bell_;
     int port_ = 0;
     std::thread thread_;
 };

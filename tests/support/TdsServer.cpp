@@ -1,13 +1,11 @@
 #include "support/TdsServer.h"
 
 #include "platform/sqlserver/Utf16.h"
-#include "support/Loopback.h"
+#include "support/Sockets.h"
 
 #include <algorithm>
 #include <optional>
 #include <stdexcept>
-
-#include <unistd.h>
 
 namespace velcro::test {
 
@@ -105,7 +103,7 @@ void send(int socket, const std::string& body, bool whole) {
         const auto length = size + headerSize;
         packet += {static_cast<char>(length >> 8), static_cast<char>(length & 0xFF), 0, 1, 1, 0};
         packet.append(body, at, size);
-        ::send(socket, packet.data(), packet.size(), MSG_NOSIGNAL);
+        ::send(socket, packet.data(), packet.size(), sendFlags);
         at += size;
     }
 }
@@ -207,17 +205,13 @@ TdsServer::TdsServer(Answer answer, Login login)
     const auto [socket, port] = listenOnLoopback();
     listener_ = socket;
     port_ = port;
-    if (pipe(wake_) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no pipe");
-    }
     thread_ = std::thread([this] { serve(); });
 }
 
 TdsServer::~TdsServer() {
-    close(wake_[1]);
+    bell_.end();
     thread_.join();
-    close(wake_[0]);
-    close(listener_);
+    closeSocket(listener_);
 }
 
 std::string TdsServer::address() const {
@@ -225,12 +219,12 @@ std::string TdsServer::address() const {
 }
 
 void TdsServer::serve() {
-    while (readable(listener_, wake_[0])) {
-        const int client = accept(listener_, nullptr, nullptr);
+    while (readable(listener_, bell_)) {
+        const int client = static_cast<int>(accept(listener_, nullptr, nullptr));
         if (client >= 0) {
             serveClient(client);
             endTransaction(false);
-            close(client);
+            closeSocket(client);
         }
     }
 }
@@ -324,7 +318,7 @@ TdsReply TdsServer::answerRequest(int type, const std::string& body) {
 
 void TdsServer::serveClient(int client) {
     while (login_ != Login::CutAtOnce) {
-        const auto request = readable(client, wake_[0]) ? readRequest(client) : std::nullopt;
+        const auto request = readable(client, bell_) ? readRequest(client) : std::nullopt;
         if (!request) {
             return;
         }

@@ -2,6 +2,8 @@
 // what a real one does rarely, and breaking off in the middle, can so be had at will.
 #pragma once
 
+#include "support/Sockets.h"
+
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -105,7 +107,7 @@ private:
     std::vector<std::string> waiting_; // for the commit
     bool inTransaction_ = false;
     int listener_ = -1;
-    int wake_[2] = {-1, -1};
+    Bell bell_;
     int port_ = 0;
     std::thread thread_;
 };
