@@ -10,20 +10,19 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <thread>
 
-#include <unistd.h>
-
 namespace fs = std::filesystem;
 using velcro::test::ChildProcess;
+using velcro::test::ChildWork;
 using velcro::test::DroppingServer;
 using velcro::test::EmbeddedDatabase;
 using velcro::test::FullDisk;
 using velcro::test::OrdinaryUser;
+using velcro::test::Report;
 using velcro::test::schemaOf;
 using velcro::test::TempFolder;
 using velcro::test::TillSeat;
@@ -44,28 +43,49 @@ int sweepOnce(const std::string& folder, const QString& name) {
 
 /// What a killed process leaves goes with the till's folder.
 void leaveNothingBehind(const std::string& folder) {
-    setenv("TMPDIR", folder.c_str(), 1);
+    for (const char* variable : {"TMPDIR", "TEMP", "TMP"}) {
+        qputenv(variable, folder.c_str());
+    }
 }
 
 /// Tells of each step by a byte, and stays there when it is done.
-int sweepReporting(const std::string& folder, int report) {
-    leaveNothingBehind(folder);
-    TillSeat seat(folder);
-    const auto tell = [report] { (void)!write(report, ".", 1); };
+int sweepReporting(const ChildWork::Arguments& of, const Report& report) {
+    leaveNothingBehind(of.at(0));
+    TillSeat seat(of.at(0));
+    const auto tell = [&report] { report.tell(".", 1); };
     velcro::schema::gSchemaWatch = {.afterLookUp = tell,
                                     .afterSend = [tell](const QString&, bool) { tell(); }};
     seat.sweep();
-    pause();
+    Report::wait();
     return 0;
 }
+const ChildWork reportingSweep("reportingSweep", sweepReporting);
 
-void readAll(int from, std::string& bytes) {
-    for (std::size_t done = 0; done < bytes.size();) {
-        const auto count = read(from, bytes.data() + done, bytes.size() - done);
-        ASSERT_GT(count, 0);
-        done += static_cast<std::size_t>(count);
-    }
-}
+const ChildWork sweepCutOff("sweepCutOff", [](const ChildWork::Arguments& of, const Report&) {
+    leaveNothingBehind(of.at(0));
+    TillSeat seat(of.at(0));
+    velcro::schema::gSchemaWatch.afterSend = [](const QString& statement, bool) {
+        if (statement.startsWith("CREATE TABLE [dbo].[SYSAudit]")) {
+            ChildProcess::killOneself();
+        }
+    };
+    seat.sweep();
+    return 0;
+});
+
+const ChildWork otherSeat("otherSeat", [](const ChildWork::Arguments& of, const Report&) {
+    return sweepOnce(of.at(0), "SEAT2");
+});
+
+const ChildWork readOnlySweep("readOnlySweep", [](const ChildWork::Arguments& of, const Report&) {
+    const OrdinaryUser user;
+    TillSeat seat(of.at(0));
+    const QString failure = failureOf([&] { seat.sweep(); });
+    return seat.sent.size() == seat.refused.size() && gErrorMsg.contains("read-only") &&
+                   failure == "no failure"
+               ? 0
+               : 1;
+});
 
 /// A till after one sweep that nothing disturbs.
 class SweptTill
@@ -117,12 +137,12 @@ TEST(SweepFaultsTest, aKilledSweepIsFinishedByTheNext) {
     for (int i = 0; i < kills; ++i) {
         EmbeddedDatabase database;
         const std::string folder = folderOf(database);
-        ChildProcess child([&](int report) { return sweepReporting(folder, report); });
+        ChildProcess child(reportingSweep, {folder});
         std::string steps(1 + random() % sweptTill().steps, ' ');
-        readAll(child.output(), steps);
+        ASSERT_TRUE(child.read(steps.data(), steps.size()));
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 2000));
         child.kill();
-        EXPECT_EQ(child.wait(), 128 + SIGKILL);
+        EXPECT_EQ(child.wait(), ChildProcess::killed);
         const std::string parked = database.answer(parkedSale);
         EXPECT_EQ(sweepOnce(folder, "SEAT1"), 0);
         EXPECT_TRUE(schemaOf(database.connection()) == wholeSchema()) << "kill " << i;
@@ -134,18 +154,8 @@ TEST(SweepFaultsTest, aTableThatWasCutOffFromItsKeyGetsIt) {
     EmbeddedDatabase database;
     sweptTill().copyTo(database);
     database.answer("DROP TABLE SYSAudit");
-    ChildProcess child([&](int) {
-        leaveNothingBehind(folderOf(database));
-        TillSeat seat(folderOf(database));
-        velcro::schema::gSchemaWatch.afterSend = [](const QString& statement, bool) {
-            if (statement.startsWith("CREATE TABLE [dbo].[SYSAudit]")) {
-                std::raise(SIGKILL);
-            }
-        };
-        seat.sweep();
-        return 0;
-    });
-    EXPECT_EQ(child.wait(), 128 + SIGKILL);
+    ChildProcess child(sweepCutOff, {folderOf(database)});
+    EXPECT_EQ(child.wait(), ChildProcess::killed);
     EXPECT_EQ(database.answer("SELECT COUNT(*) FROM sys.indexes I WHERE I.object_id ="
                               " OBJECT_ID('SYSAudit') AND I.is_primary_key = 1"),
               "0");
@@ -157,7 +167,7 @@ TEST(SweepFaultsTest, aTableThatWasCutOffFromItsKeyGetsIt) {
 TEST(SweepFaultsTest, twoSeatsSweepOneTillAtTheSameMoment) {
     EmbeddedDatabase database;
     const std::string folder = folderOf(database);
-    ChildProcess other([&](int) { return sweepOnce(folder, "SEAT2"); });
+    ChildProcess other(otherSeat, {folder});
     sweepOnce(folder, "SEAT1");
     const int ending = other.wait();
     EXPECT_TRUE(ending == 0 || ending == 1) << "to its end: " << ending;
@@ -190,15 +200,7 @@ TEST(SweepFaultsTest, aReadOnlyTillIsReadAndLeftAsItIs) {
     const fs::path file = database.folder().file("Shop.sqlite");
     fs::permissions(database.folder().path(), fs::perms(0777)); // the file alone is read-only
     fs::permissions(file, fs::perms(0444));
-    ChildProcess child([&](int) {
-        const OrdinaryUser user;
-        TillSeat seat(folderOf(database));
-        const QString failure = failureOf([&] { seat.sweep(); });
-        return seat.sent.size() == seat.refused.size() && gErrorMsg.contains("read-only") &&
-                       failure == "no failure"
-                   ? 0
-                   : 1;
-    });
+    ChildProcess child(readOnlySweep, {folderOf(database)});
     EXPECT_EQ(child.wait(), 0) << "refused in words";
     fs::permissions(file, fs::perms(0666));
     const auto again = database.open();

@@ -1,30 +1,33 @@
-// A piece of a test that runs in a process of its own, so that it can be killed or limited.
+// A piece of a test in a process of its own.
 #pragma once
 
-#include <functional>
-
-#include <sys/types.h>
+#include "support/ChildWork.h"
 
 namespace velcro::test {
 
 class ChildProcess
 {
 public:
-    /// work runs in the child; what it gives is the exit status. An exception ends it with 99. What
-    /// is written to descriptor `report` can be read from output() here.
-    explicit ChildProcess(const std::function<int(int report)>& work);
+    explicit ChildProcess(const ChildWork& work, const ChildWork::Arguments& arguments = {});
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
+    /// What wait() gives for a process that was killed, from here or by itself.
+    static constexpr int killed = 128 + 9;
     void kill() const;
-    /// Exit status, or 128 and the number of the signal that ended it.
+    [[noreturn]] static void killOneself();
+    /// Exit status, or killed.
     int wait();
-    int output() const { return output_; }
+
+    /// Waits for so many bytes of what the child reports; false when it ended before.
+    bool read(void* bytes, std::size_t size) const;
 
 private:
-    pid_t pid_ = 0;
-    int output_ = -1;
+    void close() const;
+
+    std::intptr_t process_ = 0;
+    std::intptr_t output_ = -1;
 };
 
 } // namespace velcro::test

@@ -2,11 +2,18 @@
 // not pass by running nothing. What is left beside the suites that a filter takes out may be none.
 #pragma once
 
+#include "support/ChildWork.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 inline int runTests() {
+    const char* work = std::getenv("VELCRO_CHILD_WORK");
+    if (work != nullptr && velcro::test::runAsChild != nullptr) {
+        return velcro::test::runAsChild(work);
+    }
     const bool isRest = testing::GTEST_FLAG(filter).starts_with('-');
     const int failed = RUN_ALL_TESTS();
     if (!isRest && testing::UnitTest::GetInstance()->test_to_run_count() == 0) {

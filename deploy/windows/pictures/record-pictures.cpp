@@ -75,9 +75,9 @@ void recordAll(const QDir& ui, const QDir& out) {
     constexpr int sharpAtFourTimes = 96;
     paint(ui.filePath(u"pictures/down.svg"_s), sharpAtFourTimes, out.filePath(u"down.png"_s));
     writeText(out.filePath(u"theme.qrc"_s),
-              list(u"/theme"_s, {"<file alias=\"theme.qss\">" + ui.absoluteFilePath(u"theme.qss"_s) +
-                                     "</file>",
-                                 u"<file alias=\"down.svg\">down.png</file>"_s}));
+              list(u"/theme"_s,
+                   {"<file alias=\"theme.qss\">" + ui.absoluteFilePath(u"theme.qss"_s) + "</file>",
+                    u"<file alias=\"down.svg\">down.png</file>"_s}));
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
         paint(ui.filePath(u"icons/product-logo.svg"_s), size,
               out.filePath(u"velcro-%1.png"_s.arg(size)));

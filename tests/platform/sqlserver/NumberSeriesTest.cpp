@@ -2,19 +2,18 @@
 #include "support/ChildProcess.h"
 #include "support/DiskWaits.h"
 #include "support/EmbeddedDatabase.h"
+#include "support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <set>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 using velcro::test::ChildProcess;
+using velcro::test::ChildWork;
 using velcro::test::EmbeddedDatabase;
+using velcro::test::Report;
 using velcro::test::TempFolder;
 
 namespace {
@@ -57,6 +56,28 @@ int wantedDraws() {
     const char* value = std::getenv("VELCRO_DRAWS");
     return value != nullptr ? std::atoi(value) : 60;
 }
+
+/// Of the folder, so many numbers, each reported; how it works and ends follows from its own number.
+int takeNumbers(const ChildWork::Arguments& of, const Report& report) {
+    const int i = std::stoi(of.at(1));
+    // Half of them in transactions, of which some end without a row.
+    const auto connection = i % 2 == 0 ? EmbeddedDatabase::open(of.at(0)) : suite(of.at(0));
+    for (int taken = 0; taken < std::stoi(of.at(2)); ++taken) {
+        const auto number = static_cast<std::int32_t>(connection->query(draw).integer(0, 0));
+        if (!report.tell(&number, sizeof number)) {
+            return 1;
+        }
+        if (i % 2 == 1 && taken % 3 != 0) {
+            connection->execute("INSERT INTO Orders VALUES (1)");
+            taken % 3 == 1 ? connection->commit() : connection->rollback();
+        }
+    }
+    if (i < 4) { // these end without a word, with a number in hand
+        ChildProcess::killOneself();
+    }
+    return 0;
+}
+const ChildWork numberTaker("numberTaker", takeNumbers);
 
 } // namespace
 
@@ -165,28 +186,13 @@ TEST(NumberSeriesTest, processesTakeDifferentNumbersWithoutAGapAlsoWhenSomeAreKi
     const int each = wantedDraws();
     std::vector<std::unique_ptr<ChildProcess>> children;
     for (int i = 0; i < processes; ++i) {
-        children.push_back(std::make_unique<ChildProcess>([&, i](int report) {
-            // Half of them in transactions, of which some end without a row.
-            const auto connection = i % 2 == 0 ? EmbeddedDatabase::open(path) : suite(path);
-            for (int taken = 0; taken < each; ++taken) {
-                const auto number =
-                    static_cast<std::int32_t>(connection->query(draw).integer(0, 0));
-                if (write(report, &number, sizeof number) != sizeof number) {
-                    return 1;
-                }
-                if (i % 2 == 1 && taken % 3 != 0) {
-                    connection->execute("INSERT INTO Orders VALUES (1)");
-                    taken % 3 == 1 ? connection->commit() : connection->rollback();
-                }
-            }
-            // These end without a word, with a number in hand.
-            return i < 4 ? raise(SIGKILL) : 0;
-        }));
+        children.push_back(std::make_unique<ChildProcess>(
+            numberTaker, ChildWork::Arguments{path, std::to_string(i), std::to_string(each)}));
     }
     std::set<std::int32_t> drawn;
     for (const auto& child : children) {
         std::int32_t number = 0;
-        while (read(child->output(), &number, sizeof number) == sizeof number) {
+        while (child->read(&number, sizeof number)) {
             EXPECT_TRUE(drawn.insert(number).second) << number << " was given twice";
         }
         child->wait();
@@ -197,13 +203,12 @@ TEST(NumberSeriesTest, processesTakeDifferentNumbersWithoutAGapAlsoWhenSomeAreKi
 }
 
 TEST(NumberSeriesTest, databaseAndNumbersAreForTheirOwnerAlone) {
-    const mode_t before = umask(0022);
+    const velcro::test::OpenFiles usual;
     const EmbeddedDatabase database;
     EXPECT_EQ(database.answer("CREATE TABLE SYSNumbers (CO nvarchar(10), Branch nvarchar(10),"
                               " ModCode nvarchar(6), TxTp nvarchar(12), Number int)"),
               "(-1)");
     EXPECT_EQ(database.answer(draw), "1");
-    umask(before);
     std::set<std::string> kinds;
     for (const auto& entry : fs::directory_iterator(database.folder().path())) {
         kinds.insert(entry.path().extension().string());

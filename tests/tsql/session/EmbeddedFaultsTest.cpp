@@ -7,18 +7,19 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <optional>
 #include <random>
 #include <thread>
 
 #include <sqlite3.h>
-#include <unistd.h>
 
 using velcro::sql::SqlError;
 using velcro::test::ChildProcess;
+using velcro::test::ChildWork;
 using velcro::test::EmbeddedDatabase;
+using velcro::test::OrdinaryUser;
+using velcro::test::Report;
 using velcro::test::TempFolder;
 
 namespace {
@@ -59,6 +60,79 @@ void writeOrder(velcro::sql::SqlConnection& connection, int number) {
     connection.commit();
 }
 
+using Arguments = ChildWork::Arguments;
+
+/// Orders without end, from a number on; each is reported once it is confirmed.
+const ChildWork endlessOrders("endlessOrders", [](const Arguments& of, const Report& report) {
+    const auto connection = EmbeddedDatabase::open(of.at(0));
+    for (int number = std::stoi(of.at(1));; ++number) {
+        writeOrder(*connection, number);
+        if (!report.tell(&number, sizeof number)) {
+            return 1;
+        }
+    }
+});
+
+const ChildWork someOrders("someOrders", [](const Arguments& of, const Report&) {
+    const auto connection = EmbeddedDatabase::open(of.at(0));
+    for (int number = 0; number < 25; ++number) {
+        writeOrder(*connection, std::stoi(of.at(1)) + number);
+    }
+    return 0;
+});
+
+/// Writes until the disk is full, and one more when there is room again; reports how many are kept.
+int ordersOnAFullDisk(const Arguments& of, const Report& report) {
+    const auto connection = EmbeddedDatabase::open(of.at(0));
+    const auto answer = [&](const char* batch) {
+        return EmbeddedDatabase::answerOf(*connection, batch);
+    };
+    writeOrder(*connection, 1);
+    std::optional<velcro::test::FullDisk> full(300'000);
+    for (int number = 2; number < 10'000; ++number) {
+        try {
+            writeOrder(*connection, number);
+        } catch (const SqlError& error) {
+            const bool told = error.number() != 0 && *error.what() != '\0';
+            // The order was taken back already: what follows in its transaction must not be
+            // written without it, even when there is room again.
+            full.reset();
+            const bool lost =
+                answer("SELECT XACT_STATE(), @@TRANCOUNT INSERT INTO Orders VALUES (0)") ==
+                "-1|1 error 3930";
+            connection->rollback();
+            // The program goes on, on the same connection.
+            int kept = number - 1;
+            const bool reads = answer("SELECT COUNT(*) FROM Orders") == std::to_string(kept);
+            writeOrder(*connection, number);
+            ++kept;
+            return told && lost && reads && report.tell(&kept, sizeof kept) ? 0 : 2;
+        }
+    }
+    return 1;
+}
+const ChildWork fullDisk("fullDisk", ordersOnAFullDisk);
+
+const ChildWork keepOpen("keepOpen", [](const Arguments& of, const Report& report) {
+    const auto connection = EmbeddedDatabase::open(of.at(0));
+    connection->query("SELECT COUNT(*) FROM Orders");
+    report.tell("!", 1);
+    Report::wait();
+    return 0;
+});
+
+const ChildWork withoutRights("withoutRights", [](const Arguments& of, const Report&) {
+    const OrdinaryUser user;
+    const auto connection = EmbeddedDatabase::open(of.at(0));
+    const auto answer = [&](const char* batch) {
+        return EmbeddedDatabase::answerOf(*connection, batch);
+    };
+    if (!user.works() || answer("SELECT COUNT(*) FROM Orders") != "0") {
+        return 1;
+    }
+    return answer("INSERT INTO Orders VALUES (1)") == "error 3906" ? 0 : 2;
+});
+
 /// "0 0" when every order from that number on has all its items, and every item its order.
 std::string halfOrders(const SharedFolder& database, int first = 0) {
     const auto from = std::to_string(first);
@@ -87,25 +161,17 @@ TEST(EmbeddedFaultsTest, aKilledProcessLeavesWholeBatchesAndWhatItConfirmed) {
     int allConfirmed = 0;
     for (int kill = 0; kill < wanted("VELCRO_KILLS", 150); ++kill) {
         const int first = (kill + 1) * 10'000;
-        ChildProcess child([&](int report) {
-            const auto connection = EmbeddedDatabase::open(folder);
-            for (int number = first;; ++number) {
-                writeOrder(*connection, number);
-                if (write(report, &number, sizeof number) != sizeof number) {
-                    return 1;
-                }
-            }
-        });
+        ChildProcess child(endlessOrders, {folder, std::to_string(first)});
         int confirmed = 0;
         // Most are killed while they write, however long this machine takes until then, and some
         // while they open the database.
-        if (kill % 5 != 0 && read(child.output(), &confirmed, sizeof confirmed) > 0) {
+        if (kill % 5 != 0 && child.read(&confirmed, sizeof confirmed)) {
             lastConfirmed = confirmed;
         }
         std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
         child.kill();
-        ASSERT_EQ(child.wait(), 128 + SIGKILL);
-        while (read(child.output(), &confirmed, sizeof confirmed) == sizeof confirmed) {
+        ASSERT_EQ(child.wait(), ChildProcess::killed);
+        while (child.read(&confirmed, sizeof confirmed)) {
             lastConfirmed = confirmed;
         }
         // All that is there takes long to look at: mostly what this child may have touched.
@@ -131,13 +197,8 @@ TEST(EmbeddedFaultsTest, processesWriteToOneFolder) {
     const std::string folder = database.path();
     std::vector<std::unique_ptr<ChildProcess>> children;
     for (int i = 1; i <= 4; ++i) {
-        children.push_back(std::make_unique<ChildProcess>([&folder, i](int) {
-            const auto connection = EmbeddedDatabase::open(folder);
-            for (int number = 0; number < 25; ++number) {
-                writeOrder(*connection, i * 1'000 + number);
-            }
-            return 0;
-        }));
+        children.push_back(std::make_unique<ChildProcess>(
+            someOrders, Arguments{folder, std::to_string(i * 1'000)}));
     }
     for (const auto& child : children) {
         EXPECT_EQ(child->wait(), 0);
@@ -149,38 +210,9 @@ TEST(EmbeddedFaultsTest, processesWriteToOneFolder) {
 TEST(EmbeddedFaultsTest, aFullDiskIsToldAndLosesNothingThatWasConfirmed) {
     const SharedFolder database(tables);
     const std::string folder = database.path();
-    ChildProcess child([&](int report) {
-        const auto connection = EmbeddedDatabase::open(folder);
-        const auto answer = [&](const char* batch) {
-            return EmbeddedDatabase::answerOf(*connection, batch);
-        };
-        writeOrder(*connection, 1);
-        std::optional<velcro::test::FullDisk> full(300'000);
-        for (int number = 2; number < 10'000; ++number) {
-            try {
-                writeOrder(*connection, number);
-            } catch (const SqlError& error) {
-                const bool told = error.number() != 0 && *error.what() != '\0';
-                // The order was taken back already: what follows in its transaction must not be
-                // written without it, even when there is room again.
-                full.reset();
-                const bool lost =
-                    answer("SELECT XACT_STATE(), @@TRANCOUNT INSERT INTO Orders VALUES (0)") ==
-                    "-1|1 error 3930";
-                connection->rollback();
-                // The program goes on, on the same connection.
-                int kept = number - 1;
-                const bool reads = answer("SELECT COUNT(*) FROM Orders") == std::to_string(kept);
-                writeOrder(*connection, number);
-                ++kept;
-                const bool sent = write(report, &kept, sizeof kept) == sizeof kept;
-                return told && lost && reads && sent ? 0 : 2;
-            }
-        }
-        return 1;
-    });
+    ChildProcess child(fullDisk, {folder});
     int kept = 0;
-    EXPECT_EQ(read(child.output(), &kept, sizeof kept), static_cast<ssize_t>(sizeof kept));
+    EXPECT_TRUE(child.read(&kept, sizeof kept));
     EXPECT_EQ(child.wait(), 0);
     EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), std::to_string(kept));
     EXPECT_EQ(halfOrders(database), "0 0");
@@ -189,35 +221,16 @@ TEST(EmbeddedFaultsTest, aFullDiskIsToldAndLosesNothingThatWasConfirmed) {
 TEST(EmbeddedFaultsTest, withoutRightsTheFileIsReadAndNotChanged) {
     const SharedFolder database(tables);
     const std::string folder = database.path();
-    const bool isRoot = geteuid() == 0;
     namespace fs = std::filesystem;
     fs::permissions(folder, fs::perms(0755));
     // While somebody who may write is connected, the others can read along.
-    ChildProcess keeper([&](int report) {
-        const auto connection = EmbeddedDatabase::open(folder);
-        connection->query("SELECT COUNT(*) FROM Orders");
-        const char ready = 1;
-        return write(report, &ready, 1) == 1 ? pause() : 1;
-    });
+    ChildProcess keeper(keepOpen, {folder});
     char ready = 0;
-    ASSERT_EQ(read(keeper.output(), &ready, 1), 1);
+    ASSERT_TRUE(keeper.read(&ready, 1));
     for (const auto& entry : fs::directory_iterator(folder)) {
-        fs::permissions(entry.path(), isRoot ? fs::perms(0644) : fs::perms(0444));
+        fs::permissions(entry.path(), OrdinaryUser::isNeeded() ? fs::perms(0644) : fs::perms(0444));
     }
-    ChildProcess child([&](int) {
-        constexpr uid_t nobody = 65534;
-        if (isRoot && setuid(nobody) != 0) {
-            return 3;
-        }
-        const auto connection = EmbeddedDatabase::open(folder);
-        const auto answer = [&](const char* batch) {
-            return EmbeddedDatabase::answerOf(*connection, batch);
-        };
-        if (answer("SELECT COUNT(*) FROM Orders") != "0") {
-            return 1;
-        }
-        return answer("INSERT INTO Orders VALUES (1)") == "error 3906" ? 0 : 2;
-    });
+    ChildProcess child(withoutRights, {folder});
     EXPECT_EQ(child.wait(), 0);
     EXPECT_EQ(database.answer("SELECT COUNT(*) FROM Orders"), "0");
 }
@@ -231,7 +244,7 @@ TEST(EmbeddedFaultsTest, aReadOnlyDatabaseThatNobodyHasOpenIsReadOrTold) {
         fs::permissions(entry.path(), fs::perms(0444));
     }
     const auto tried = [&](const char* batch) {
-        const velcro::test::OrdinaryUser user;
+        const OrdinaryUser user;
         EXPECT_TRUE(user.works());
         try {
             return EmbeddedDatabase::answerOf(*EmbeddedDatabase::open(folder), batch);
