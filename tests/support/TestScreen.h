@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -18,8 +19,16 @@ inline void useScreen(QTemporaryFile& file, int width, int height, bool frames) 
     const QJsonObject all{{"synchronousWindowSystemEvents", false},
                           {"windowFrameMargins", frames},
                           {"screens", QJsonArray{screen}}};
+#ifdef _WIN32
+    file.setFileTemplate(QStringLiteral("velcro-screen.XXXXXX")); // a colon would end the option
+#endif
     if (!file.open() || file.write(QJsonDocument(all).toJson()) < 0 || !file.flush()) {
         throw std::runtime_error("cannot write the screen's size");
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+#ifdef _WIN32
+    const QString name = QFileInfo(file).fileName();
+#else
+    const QString name = file.fileName();
+#endif
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + name.toLocal8Bit());
 }
