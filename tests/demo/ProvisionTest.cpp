@@ -1,10 +1,10 @@
 // A sample seat as ./run and an installed program make it.
 #include "platform/sqlserver/SqlConnection.h"
+#include "support/CommandLine.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -20,15 +20,17 @@ namespace {
 using velcro::test::TempFolder;
 namespace sql = velcro::sql;
 
+using velcro::test::programWord;
+
 int run(const std::string& command) {
-    return WEXITSTATUS(std::system((command + " >/dev/null 2>&1").c_str()));
+    return velcro::test::runLine(command + " >" + velcro::test::nowhere + " 2>&1");
 }
 
 int provision(const fs::path& seat, const std::string& more = {},
               const fs::path& data = VELCRO_SAMPLE_DATA) {
-    return run("\"" VELCRO_SAMPLE "\" --no-start --today 2026/03/01 --seat \"" + seat.string() +
-               "\" --data \"" + data.string() + "\" --structure \"" VELCRO_SAMPLE_STRUCTURE "\" " +
-               more);
+    return run(programWord(VELCRO_SAMPLE) + " --no-start --today 2026/03/01 --seat \"" +
+               seat.string() + "\" --data \"" + data.string() +
+               "\" --structure \"" VELCRO_SAMPLE_STRUCTURE "\" " + more);
 }
 
 /// One seat for all tests that only look; its folder has a quote and a blank in its name.
@@ -115,11 +117,12 @@ TEST_F(ProvisionTest, AFailureLeavesNothingBehind) {
 
 TEST_F(ProvisionTest, StructureScriptsCanBeRunAgain) {
     const fs::path copy = folder_->path() / "again";
-    fs::copy(seat_ / "databases", copy);
+    fs::copy(seat_ / "databases", copy, fs::copy_options::recursive);
     const std::pair<const char*, const char*> databases[] = {
         {"VELCOMMON", "common"}, {"VELSUITE", "suite"}, {"VELTILL", "till"}};
     for (const auto& [database, prefix] : databases) {
-        std::string command = "\"" VELSQL_PROGRAM "\" -b -S \"embedded:" + copy.string() + "\" -d ";
+        std::string command =
+            programWord(VELSQL_PROGRAM) + " -b -S \"embedded:" + copy.string() + "\" -d ";
         command += database;
         for (const auto& entry : fs::directory_iterator(VELCRO_SAMPLE_STRUCTURE)) {
             if (entry.path().filename().string().starts_with(prefix)) {

@@ -24,15 +24,16 @@ struct Interrupt::Watch
 
     /// FALSE ends the process.
     static BOOL WINAPI handle(DWORD event) {
-        if (event != CTRL_C_EVENT || current == nullptr || current->handling.exchange(true)) {
+        Watch* const watch = current;
+        if (event != CTRL_C_EVENT || watch == nullptr || watch->handling.exchange(true)) {
             return FALSE;
         }
-        const bool cancels = current->cancel();
-        while (cancels && !current->over) {
+        const bool cancels = watch->cancel();
+        while (cancels && !watch->over) {
             Sleep(50);
-            current->cancel();
+            watch->cancel();
         }
-        current->handling = false;
+        watch->handling = false;
         return cancels ? TRUE : FALSE;
     }
 

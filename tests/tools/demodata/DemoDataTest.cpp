@@ -1,9 +1,9 @@
 // velcro-demo as a program: what it writes, and what it refuses.
+#include "support/CommandLine.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -17,9 +17,9 @@ namespace {
 using velcro::test::TempFolder;
 
 int generate(const fs::path& out, const std::string& more) {
-    const std::string command = "\"" VELCRO_DEMO_PROGRAM "\" \"" VELCRO_SAMPLE_DATA "\" \"" +
-                                out.string() + "\" " + more + " 2>\"" + out.string() + ".errors\"";
-    return std::system(command.c_str());
+    return velcro::test::runLine(velcro::test::programWord(VELCRO_DEMO_PROGRAM) +
+                                 " \"" VELCRO_SAMPLE_DATA "\" \"" + out.string() + "\" " + more +
+                                 " 2>\"" + out.string() + ".errors\"");
 }
 
 std::string contents(const fs::path& file) {

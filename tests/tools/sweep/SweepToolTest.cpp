@@ -1,13 +1,11 @@
 // velcro-sweep as an administrator calls it.
+#include "support/CommandLine.h"
 #include "support/EmbeddedDatabase.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
+#include <fstream>
 #include <sstream>
-
-#include <sys/wait.h>
 
 using velcro::test::EmbeddedDatabase;
 
@@ -20,16 +18,14 @@ struct Outcome
 };
 
 Outcome sweep(const std::string& arguments) {
-    Outcome outcome;
-    FILE* pipe = popen(
-        (std::string("QT_QPA_PLATFORM=offscreen " SWEEP_PROGRAM " ") + arguments + " 2>&1").c_str(),
-        "r");
-    std::array<char, 4096> buffer{};
-    while (const auto size = fread(buffer.data(), 1, buffer.size(), pipe)) {
-        outcome.text.append(buffer.data(), size);
-    }
-    outcome.status = WEXITSTATUS(pclose(pipe));
-    return outcome;
+    const velcro::test::TempFolder folder;
+    const int status =
+        velcro::test::runLine(velcro::test::withVariable("QT_QPA_PLATFORM", "offscreen") +
+                              velcro::test::programWord(SWEEP_PROGRAM) + ' ' + arguments + " >" +
+                              folder.file("said") + " 2>&1");
+    std::ostringstream text;
+    text << std::ifstream(folder.file("said")).rdbuf();
+    return {status, text.str()};
 }
 
 int countOf(const std::string& text, const std::string& word) {

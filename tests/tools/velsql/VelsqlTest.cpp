@@ -1,4 +1,5 @@
 // The program itself, run as a process with a command line, files and a pipe.
+#include "support/CommandLine.h"
 #include "support/TdsServer.h"
 #include "support/TempFolder.h"
 
@@ -9,8 +10,6 @@
 #include <fstream>
 #include <sstream>
 #include <thread>
-
-#include <sys/wait.h>
 
 namespace {
 
@@ -35,15 +34,18 @@ protected:
     }
 
     Outcome velsql(const std::vector<std::string>& arguments, const std::string& input = {},
-                   const std::string& environment = {}) {
-        std::string command = environment + " " VELSQL_PROGRAM;
+                   const std::string& password = {}) {
+        std::string command = velcro::test::programWord(VELSQL_PROGRAM);
+        if (!password.empty()) {
+            command = velcro::test::withVariable("VELSQL_PASSWORD", password) + command;
+        }
         for (const auto& argument : arguments) {
-            command += " '" + argument + "'";
+            command += ' ' + velcro::test::quoted(argument);
         }
         command +=
             " <" + write("in", input) + " >" + folder.file("out") + " 2>" + folder.file("problems");
-        const int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), read("out"), read("problems")};
+        const int status = velcro::test::runLine(command);
+        return {status, read("out"), read("problems")};
     }
 
     /// On a database of its own, through the driver that every test machine has.
@@ -149,8 +151,8 @@ TEST_F(VelsqlTest, whatKeepsItFromWorkingIsToldAndNothingRuns) {
     EXPECT_NE(unreadable.problems.find("cannot read"), std::string::npos);
     EXPECT_EQ(session({"-Q", "SELECT * FROM t"}).status, 1) << "the first -Q must not have run";
 
-    const auto refused = velsql({"-S", "127.0.0.1,1", "-d", "Suite", "-U", "till"}, "SELECT 1",
-                                "VELSQL_PASSWORD=TopSecret");
+    const auto refused =
+        velsql({"-S", "127.0.0.1,1", "-d", "Suite", "-U", "till"}, "SELECT 1", "TopSecret");
     EXPECT_EQ(refused.status, 1);
     EXPECT_NE(refused.problems.find("cannot connect to Suite on 127.0.0.1,1"), std::string::npos);
     EXPECT_EQ(refused.problems.find("TopSecret"), std::string::npos);
@@ -169,6 +171,8 @@ TEST_F(VelsqlTest, aScriptThatIsNoTextRunsNothing) {
     EXPECT_TRUE(velsql({"-S", "embedded:" + folder.path().string(), "-d", "Shop"}, "SELECT '\xFF'")
                     .problems.starts_with("velsql: standard input, line 1, byte 9: "));
 }
+
+#ifndef _WIN32 // which has neither such a device nor interrupts from outside
 
 TEST_F(VelsqlTest, aFullDiskEndsItWithAMessage) {
     const std::string command = VELSQL_PROGRAM " -S 'embedded:" + folder.path().string() +
@@ -216,3 +220,5 @@ TEST_F(VelsqlTest, anInterruptCancelsTheStatementAndEndsTheSession) {
     other.join();
     EXPECT_TRUE(read("out").ends_with(cancelled)) << read("out").substr(0, 200);
 }
+
+#endif

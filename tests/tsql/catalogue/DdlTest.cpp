@@ -1,8 +1,8 @@
+#include "support/TempFolder.h"
 #include "tsql/catalogue/CatalogueFixture.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace velcro::sql::tsql {
@@ -274,9 +274,8 @@ TEST_F(DdlTest, ProceduresAndViewsAreKeptAsWritten) {
 }
 
 TEST_F(DdlTest, OneSeesWhatTheOtherHasChanged) {
-    std::string folder = (std::filesystem::temp_directory_path() / "velcro-ddl-XXXXXX").string();
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
-    const auto path = std::filesystem::path(folder) / "SHOP.sqlite";
+    const test::TempFolder folder;
+    const auto path = folder.path() / "SHOP.sqlite";
     {
         CatalogueFixture first(path.string());
         CatalogueFixture second(path.string());
@@ -292,7 +291,6 @@ TEST_F(DdlTest, OneSeesWhatTheOtherHasChanged) {
         EXPECT_EQ(second.query("INSERT INTO T(A) VALUES (NULL)"), "error 515");
         EXPECT_EQ(second.query("SELECT A FROM T WHERE A = 'X '"), "x");
     }
-    std::filesystem::remove_all(folder);
 }
 
 } // namespace
