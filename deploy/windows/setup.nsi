@@ -228,9 +228,6 @@ Section "velCRO"
     ${EndIf}
     SetOutPath $INSTDIR
     File /r "${FOLDER}\*.*"
-    FileOpen $0 "$INSTDIR\installed" w
-    FileWrite $0 "Nothing is written beside an installed program.$\r$\n"
-    FileClose $0
 
     CreateDirectory "$SMPROGRAMS\velCRO"
     Delete "$SMPROGRAMS\velCRO\*.lnk"
@@ -271,7 +268,6 @@ Section "Uninstall"
         Abort
     ${EndIf}
     !include "${REMOVE}"
-    Delete "$INSTDIR\installed"
     Delete "$INSTDIR\uninstall.exe"
     RMDir $INSTDIR
     RMDir /r "$SMPROGRAMS\velCRO"
