@@ -58,11 +58,12 @@ void applyTheme(QApplication& application) {
     initResources();
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setPalette(calmPalette());
-    application.setFont(baseFont(application.font()));
     QFile sheet(QStringLiteral(":/theme/theme.qss"));
     if (sheet.open(QIODevice::ReadOnly)) {
         application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
     }
+    // Behind the style sheet, which on Windows gives grids, menus and status bars the system's own.
+    application.setFont(baseFont(application.font()));
 }
 
 } // namespace velcro::ui

@@ -35,11 +35,11 @@ void writeText(const QString& path, const QString& text) {
 void record(const QString& svg, const QString& to) {
     QSvgRenderer renderer(contentOf(svg).replace("currentColor", "#000000"));
     QPicture picture;
+    picture.setBoundingRect(renderer.viewBox()); // before it is painted, else its ink alone counts
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter, renderer.viewBoxF());
     painter.end();
-    picture.setBoundingRect(renderer.viewBox());
     if (!renderer.isValid() || !picture.save(to)) {
         throw std::runtime_error("cannot record " + svg.toStdString());
     }

@@ -1,6 +1,7 @@
 #include "platform/seat/PrivateFile.h"
 
-#include <QTemporaryFile>
+#include <QFile>
+#include <QRandomGenerator>
 
 #include <filesystem>
 #include <system_error>
@@ -8,8 +9,13 @@
 namespace velcro::seat {
 
 bool replaceFile(const QString& path, const QByteArray& bytes, QString* reason) {
-    QTemporaryFile fresh(path + QStringLiteral(".XXXXXX")); // made new, for its owner alone
-    bool written = fresh.open() && fresh.write(bytes) == bytes.size() && fresh.flush();
+    // Made new, for its owner alone. A QTemporaryFile stays open until it goes, and Windows renames no
+    // file that is.
+    QFile fresh(path + QLatin1Char('.') +
+                QString::number(QRandomGenerator::system()->generate64(), 36));
+    bool written = fresh.open(QIODevice::WriteOnly | QIODevice::NewOnly,
+                              QFile::ReadOwner | QFile::WriteOwner) &&
+                   fresh.write(bytes) == bytes.size() && fresh.flush();
     QString why = fresh.errorString();
     if (written) {
         fresh.close();
@@ -18,7 +24,9 @@ bool replaceFile(const QString& path, const QByteArray& bytes, QString* reason) 
         std::filesystem::rename(fresh.fileName().toStdU16String(), path.toStdU16String(), error);
         written = !error;
         why = QString::fromStdString(error.message());
-        fresh.setAutoRemove(!written);
+    }
+    if (!written) {
+        fresh.remove();
     }
     if (!written && reason) {
         *reason = why;
