@@ -19,7 +19,7 @@ using namespace velcro;
 
 namespace {
 
-void write(const QString& path, const QByteArray& text) {
+[[maybe_unused]] void write(const QString& path, const QByteArray& text) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
