@@ -12,6 +12,7 @@
 #include "screens/SysFuncGlobal.h"
 #include "screens/SysStatusBar.h"
 #include "screens/Terminate.h"
+#include "ui/Contrast.h"
 #include "ui/Events.h"
 #include "ui/Handler.h"
 #include "ui/Modal.h"
@@ -196,7 +197,7 @@ void TfrmMAIN000::showBranchBand() {
     QPalette colors = pnlBranchColor->palette();
     colors.setColor(QPalette::Window, color);
     pnlBranchColor->setPalette(colors);
-    colors.setColor(QPalette::WindowText, qGray(color.rgb()) < 140 ? Qt::white : Qt::black);
+    colors.setColor(QPalette::WindowText, velcro::ui::inkOn(color));
     lblBranchColor->setPalette(colors);
     pnlBranchColor->show();
 }

@@ -6,6 +6,7 @@
 #include "screens/Terminate.h"
 #include "ui/Events.h"
 #include "ui/Handler.h"
+#include "ui/MessageBox.h"
 #include "ui/Modal.h"
 #include "ui/StatusBar.h"
 
@@ -32,7 +33,7 @@ void showErrorForm(const QString& errorNo, const QString& message, const QString
 }
 
 void showErrorBox(const QString& title, const QString& text) {
-    velcro::ui::showMessageBox(QApplication::activeWindow(), QMessageBox::Critical, title, text);
+    velcro::ui::showMessageBox(QApplication::activeWindow(), title, text);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "screens/GridLayouts.h"
 #include "ui/RowGrid.h"
+#include "ui/ScreenFit.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -65,8 +66,10 @@ bool TfrmCMN005::isTicked(std::size_t row) const {
 }
 
 void TfrmCMN005::makeButtons() {
-    auto* column = new QVBoxLayout;
-    static_cast<QHBoxLayout*>(body().itemAt(0)->layout())->addLayout(column);
+    auto* buttons = new QWidget;
+    auto* column = new QVBoxLayout(buttons);
+    column->setContentsMargins(0, 0, 0, 0);
+    body().itemAt(0)->layout()->addWidget(new velcro::ui::ScrollPage(buttons, this));
     const auto add = [&](const ButtonFacts& facts) { column->addWidget(makeButton(*this, facts)); };
     add({.name = u"btnSelectAll"_s, .caption = u"Select ALL"_s, .handler = [this] {
              tickAll(true);

@@ -9,6 +9,7 @@
 #include "data/SysLoadData.h"
 #include "screens/SysFuncGlobal.h"
 #include "ui/DateEdit.h"
+#include "ui/Icons.h"
 #include "ui/ScreenFit.h"
 
 #include <QComboBox>
@@ -115,7 +116,9 @@ void DetailScreen::makeButtons() {
     btnCancel = makeButton(*this, {.name = u"btnCancel"_s,
                                    .caption = u"Close Window"_s,
                                    .key = Qt::Key_Escape,
-                                   .handler = [this] { reject(); }});
+                                   .handler = [this] { reject(); },
+                                   .hint = u"Close Window"_s});
+    btnCancel->setSymbol(velcro::ui::icon(u"close"_s));
     btnSave = makeButton(*this, {.name = u"btnSave"_s,
                                  .caption = facts_.saveCaption,
                                  .key = Qt::Key_F10,

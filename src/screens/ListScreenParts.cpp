@@ -6,6 +6,7 @@
 #include "screens/GridLayouts.h"
 #include "screens/RecordBar.h"
 #include "screens/SearchPanel.h"
+#include "ui/ScreenFit.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -77,7 +78,9 @@ QWidget& ListScreen::above() {
     if (above_ == nullptr) {
         above_ = new QWidget(this);
         above_->setObjectName(u"pnlAbove"_s);
-        column_->insertWidget(column_->indexOf(middle_), above_);
+        auto* page = new velcro::ui::ScrollPage(above_, this);
+        page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        column_->insertWidget(column_->indexOf(middle_), page);
     }
     return *above_;
 }
@@ -86,7 +89,7 @@ QWidget& ListScreen::beside() {
     if (beside_ == nullptr) {
         beside_ = new QWidget(this);
         beside_->setObjectName(u"pnlBeside"_s);
-        middle_->addWidget(beside_, 1);
+        middle_->addWidget(new velcro::ui::ScrollPage(beside_, this), 1);
     }
     return *beside_;
 }

@@ -1,7 +1,7 @@
 #include "screens/MessageForm.h"
 
 #include "screens/SysFuncGlobal.h"
-#include "ui/Icons.h"
+#include "ui/MessageBand.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,7 +20,8 @@ MessageForm::MessageForm(const MessageLook& look) {
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
-    whole->addWidget(makeBand(look));
+    whole->addWidget(new velcro::ui::MessageBand(
+        QLatin1String(look.picture), QLatin1String(look.caption), look.band, look.ink, this));
     body_ = new QVBoxLayout;
     body_->setContentsMargins(20, 14, 20, 6);
     body_->setSpacing(6);
@@ -31,30 +32,6 @@ MessageForm::MessageForm(const MessageLook& look) {
     buttons_->addStretch();
     whole->addLayout(buttons_);
     resize(560, 300);
-}
-
-QWidget* MessageForm::makeBand(const MessageLook& look) {
-    auto* band = new QWidget(this);
-    QPalette colors = band->palette();
-    colors.setColor(QPalette::Window, QColor(look.band));
-    colors.setColor(QPalette::WindowText, QColor(look.ink));
-    band->setPalette(colors);
-    band->setAutoFillBackground(true);
-    auto* row = new QHBoxLayout(band);
-    row->setContentsMargins(20, 10, 20, 10);
-    row->setSpacing(14);
-    auto* picture = new QLabel(band);
-    picture->setPixmap(velcro::ui::icon(QLatin1String(look.picture), QColor(look.ink))
-                           .pixmap(QSize(36, 36), devicePixelRatioF()));
-    auto* title = new QLabel(QLatin1String(look.caption), band);
-    title->setPalette(colors);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() + 3);
-    font.setBold(true);
-    title->setFont(font);
-    row->addWidget(picture);
-    row->addWidget(title, 1);
-    return band;
 }
 
 QPlainTextEdit* MessageForm::addText(const QString& name, const QString& text,

@@ -48,8 +48,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    QWidget* makeBand(const MessageLook& look);
-
     QVBoxLayout* body_ = nullptr;
     QHBoxLayout* buttons_ = nullptr;
     int closeAfter_ = 0;

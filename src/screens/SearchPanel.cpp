@@ -31,6 +31,7 @@ SearchPanel::SearchPanel(QWidget* form, const QList<QKeySequence>& alsoKeys)
                                     .handler = [this] { emit searchAsked(); },
                                     .role = ButtonFacts::Role::Main,
                                     .alsoKeys = alsoKeys});
+    btnSearch_->setAccessibleName(u"Search Now"_s); // another button opens the panel
     auto* close = makeButton(*form, {.name = u"btnSearchClose"_s,
                                      .caption = u"Close"_s,
                                      .handler = [this] { emit closeAsked(); },

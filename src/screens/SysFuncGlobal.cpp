@@ -38,7 +38,7 @@ QSize screenSize() {
 
 void startKeyboard(const QString& path) {
     if (!velcro::seat::showRunningKeyboard(path)) {
-        velcro::seat::startProgram(path, {});
+        velcro::seat::startProgram(path, velcro::seat::keyboardArguments(path));
     }
 }
 

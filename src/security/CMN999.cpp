@@ -38,7 +38,8 @@ void sweepTill() {
 
 TfrmCMN999::TfrmCMN999()
     : LogInForm(QStringLiteral("CMN999")) {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::MSWindowsFixedSizeDialogHint);
     makePictures();
     addDatabases();
     addPickButton();

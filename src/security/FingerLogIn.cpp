@@ -9,6 +9,7 @@
 #include "ui/Handler.h"
 #include "ui/Icons.h"
 #include "ui/PictureBox.h"
+#include "ui/ScreenFit.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -72,7 +73,8 @@ FingerLogIn::FingerLogIn(const QString& unit, velcro::fingerprint::Family family
 FingerLogIn::~FingerLogIn() = default;
 
 void FingerLogIn::makeFinger() {
-    auto* row = new QHBoxLayout;
+    auto* page = new QWidget;
+    auto* row = new QHBoxLayout(page);
     finger_ = new velcro::ui::PictureBox(QStringLiteral("imgFinger"), this);
     finger_->setFixedSize(pictureSize, pictureSize);
     finger_->setImage(emptyPlace());
@@ -89,7 +91,7 @@ void FingerLogIn::makeFinger() {
     row->addSpacing(24);
     row->addLayout(words);
     row->addStretch();
-    body().insertLayout(0, row);
+    body().insertWidget(0, new velcro::ui::ScrollPage(page, this), 1);
 }
 
 void FingerLogIn::FormShow() {

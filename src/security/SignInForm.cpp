@@ -1,5 +1,6 @@
 #include "security/SignInForm.h"
 
+#include "data/SysDataModel.h"
 #include "screens/SysFuncGlobal.h"
 #include "ui/ScreenFit.h"
 
@@ -11,12 +12,14 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 // The character counts only while the edit hides its text, so every entry has it.
 QString entryStyle(bool hasFocus) {
     return QStringLiteral("lineedit-password-character: 35; %1")
-        .arg(hasFocus ? QStringLiteral("background: #ffeca8;") : QString());
+        .arg(hasFocus ? QStringLiteral("background: #ffeca8; color: #1d2c36;") : QString());
 }
 
 } // namespace
@@ -57,7 +60,13 @@ void SignInForm::addRequest() {
 }
 
 void SignInForm::showRequest(const QString& xModCode, int xAccessNo) {
-    request_->setText(QStringLiteral("Access code %1 of module %2").arg(xAccessNo).arg(xModCode));
+    const auto rule = std::ranges::find_if(gAccessRules, [&](const auto& candidate) {
+        return candidate->ModCode == xModCode && candidate->AccessNo == xAccessNo;
+    });
+    const QString name = rule != gAccessRules.end() ? (*rule)->AccessName.trimmed() : QString();
+    request_->setText(
+        name.isEmpty() ? QStringLiteral("Access code %1 of module %2").arg(xAccessNo).arg(xModCode)
+                       : QStringLiteral("%1 (%2 %3)").arg(name, xModCode).arg(xAccessNo));
 }
 
 velcro::ui::KeyButton* SignInForm::addButton(const ButtonFacts& facts) {

@@ -88,7 +88,7 @@ void TfrmVEL710::FormShow() {
 void TfrmVEL710::showNothing() {
     edDescription->setText(
         QStringLiteral("** There are NO Technical Reference Notes for this Form **"));
-    edDescription->setStyleSheet(QStringLiteral("background: #ffeca8;"));
+    edDescription->setStyleSheet(QStringLiteral("background: #ffeca8; color: #1d2c36;"));
     memNotes->hide();
     pages_->hide();
     btnSearch->hide();

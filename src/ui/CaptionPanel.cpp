@@ -1,5 +1,6 @@
 #include "ui/CaptionPanel.h"
 
+#include "ui/Contrast.h"
 #include "ui/Handler.h"
 
 #include <QPainter>
@@ -41,8 +42,7 @@ void CaptionPanel::paintEvent(QPaintEvent* /*event*/) {
         letters.setPixelSize(captionHeight_ * 5 / 9);
         letters.setBold(true);
         painter.setFont(letters);
-        const bool dark = qGray(color_.rgb()) < 150;
-        painter.setPen(dark ? Qt::white : QColor(0x10, 0x20, 0x14));
+        painter.setPen(inkOn(color_));
         painter.drawText(bar.adjusted(12, 0, -12, 0), Qt::AlignVCenter, caption_);
     });
 }

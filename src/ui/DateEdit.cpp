@@ -104,6 +104,7 @@ void DateEdit::pickDate() {
     QDialog popup(this, Qt::Popup);
     popup.setObjectName(QStringLiteral("Calendar"));
     popup.setAccessibleName(QStringLiteral("Calendar"));
+    popup.setAttribute(Qt::WA_NoMouseReplay); // the tap beside it closes it and does no more
     auto* layout = new QVBoxLayout(&popup);
     layout->setContentsMargins(2, 2, 2, 2);
     auto* calendar = new QCalendarWidget(&popup);

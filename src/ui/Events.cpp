@@ -48,6 +48,10 @@ bool inputIsQueued() {
     return InputGate::instance().hasInput();
 }
 
+void dropTaps() {
+    InputGate::instance().dropTaps();
+}
+
 InputHold::InputHold() {
     InputGate::instance().hold();
 }

@@ -25,6 +25,11 @@ bool inputWaits();
 /// Whether there is any that nobody has taken yet.
 bool inputIsQueued();
 
+/// A screen has come up or gone: taps and clicks that wait were aimed at the one before, and so is
+/// what comes before anybody can have seen the new one, such as the second click of a double click.
+/// Keys stay.
+void dropTaps();
+
 /// User input waits while one lives, and then goes on in its order.
 class InputHold
 {

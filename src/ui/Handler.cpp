@@ -1,6 +1,6 @@
 #include "ui/Handler.h"
 
-#include "ui/Modal.h"
+#include "ui/MessageBox.h"
 
 #include <QApplication>
 
@@ -11,8 +11,7 @@ namespace velcro::ui {
 namespace {
 
 void showInMessageBox(const QString& message) {
-    showMessageBox(QApplication::activeWindow(), QMessageBox::Critical,
-                   QApplication::applicationName(), message);
+    showMessageBox(QApplication::activeWindow(), QApplication::applicationName(), message);
 }
 
 std::function<void(const QString&)> errorDisplay = showInMessageBox;

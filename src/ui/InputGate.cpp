@@ -46,6 +46,33 @@ std::unique_ptr<InputGate::Event> copyOfInput(const InputGate::Event& event) {
     }
 }
 
+// Nobody has seen a new screen, and aimed at it, in fewer milliseconds; the second click of a double
+// click comes within them.
+constexpr int untilSeen = 300;
+
+bool isTap(const InputGate::Event& event) {
+    switch (event.type) {
+    case System::Mouse:
+        return static_cast<const System::MouseEvent&>(event).buttonType != QEvent::MouseMove;
+    case System::Touch:
+    case System::Tablet:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool beginsTap(const InputGate::Event& event) {
+    switch (event.type) {
+    case System::Mouse:
+        return static_cast<const System::MouseEvent&>(event).buttonType == QEvent::MouseButtonPress;
+    case System::Touch:
+        return static_cast<const System::TouchEvent&>(event).touchType == QEvent::TouchBegin;
+    default:
+        return false;
+    }
+}
+
 /// The program closes a window itself and wants to know at once whether it closed.
 bool isOwnClose(const InputGate::Event& event) {
     if (event.type != System::Close) {
@@ -122,6 +149,21 @@ void InputGate::leave(int heldBelow) {
     letThrough();
 }
 
+void InputGate::dropTaps() {
+    std::erase_if(kept_, [](const auto& event) { return isTap(*event); });
+    sinceChange_.start();
+}
+
+bool InputGate::isAimedElsewhere(const Event& event) {
+    if (!isTap(event)) {
+        return false;
+    }
+    if (beginsTap(event)) {
+        dropsTap_ = !isClosed() && sinceChange_.isValid() && sinceChange_.elapsed() < untilSeen;
+    }
+    return dropsTap_;
+}
+
 // Before what has come since: the window system's queue hands it out in its order.
 void InputGate::letThrough() {
     if (isClosed() || kept_.empty()) {
@@ -134,6 +176,9 @@ void InputGate::letThrough() {
 }
 
 bool InputGate::sendEvent(Event* event) {
+    if (isAimedElsewhere(*event)) {
+        return true;
+    }
     if (isClosed() && !isOwnClose(*event)) {
         if (auto copy = copyOfInput(*event)) {
             if (!isStop(*event)) {

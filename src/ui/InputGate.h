@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 
@@ -33,6 +34,9 @@ public:
     int enter(QDialog& form);
     void leave(int heldBelow);
 
+    /// Taps that wait, and those of the next moment, were aimed at a screen that is gone.
+    void dropTaps();
+
     QAbstractButton* watchStop(QAbstractButton* button) { return std::exchange(stop_, button); }
     void restTimers(bool rest) { timersRest_ = rest; }
 
@@ -44,10 +48,13 @@ private:
     InputGate();
     bool sendEvent(Event* event) override;
     bool isStop(const Event& event) const;
+    bool isAimedElsewhere(const Event& event);
     void letThrough();
 
     int held_ = 0;
     bool timersRest_ = false;
+    bool dropsTap_ = false;     // from its press to its release
+    QElapsedTimer sinceChange_; // of the screen
     QAbstractButton* stop_ = nullptr;
     std::vector<QPointer<QDialog>> forms_; // that run a loop, the topmost last
     std::deque<std::unique_ptr<Event>> kept_;

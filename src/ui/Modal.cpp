@@ -59,6 +59,7 @@ void bringUp(QDialog& dialog) {
     keepOnScreen(dialog);
     dialog.show();
     pumpUntil([&dialog] { return !dialog.isVisible() || hasKeyboard(dialog); }, untilKeyboard);
+    dropTaps();
 }
 
 /// Not every system gives the keyboard back to the window underneath.
@@ -70,6 +71,7 @@ void activateBelow() {
         pumpUntil([&below] { return below.isNull() || !below->isVisible() || hasKeyboard(*below); },
                   untilKeyboard);
     }
+    dropTaps();
 }
 
 } // namespace
@@ -92,13 +94,6 @@ void showOverWork(QDialog& dialog) {
 void hideOverWork(QDialog& dialog) {
     dialog.hide();
     activateBelow();
-}
-
-void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
-                    const QString& text) {
-    QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    runModal(box);
 }
 
 void setModalWatcher(ModalWatcher watcher) {

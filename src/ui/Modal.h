@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QMessageBox>
 
 #include <functional>
 
@@ -15,10 +14,6 @@ int runModal(QDialog& dialog);
 /// Shows a form over work that goes on below it and pumps; it has no loop of its own.
 void showOverWork(QDialog& dialog);
 void hideOverWork(QDialog& dialog);
-
-/// A message box with the single button OK.
-void showMessageBox(QWidget* parent, QMessageBox::Icon icon, const QString& title,
-                    const QString& text);
 
 /// Called with each modal form once it is on screen, from its own event loop; an empty one ends it.
 using ModalWatcher = std::function<void(QDialog&)>;

@@ -114,6 +114,24 @@ public:
         const bool on = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
         return model->setData(index, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
     }
+
+    // By itself Qt ends an edit one round of the loop later, and keys that follow at once are lost.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) {
+            return QStyledItemDelegate::eventFilter(watched, event);
+        }
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool ends = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        const bool turnsPage = (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) &&
+                               key->modifiers().testFlag(Qt::ControlModifier);
+        if (!ends && !turnsPage) {
+            return QStyledItemDelegate::eventFilter(watched, event);
+        }
+        auto* editor = qobject_cast<QWidget*>(watched);
+        emit commitData(editor);
+        emit closeEditor(editor, QAbstractItemDelegate::NoHint);
+        return ends;
+    }
 };
 
 /// Keeps room for the arrow of the sorting where the arrow is.
@@ -286,9 +304,7 @@ void RowGrid::keyPressEvent(QKeyEvent* event) {
         switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (state() != EditingState) { // the Enter that ends an edit comes by here too
-                emit rowChosen();
-            }
+            emit rowChosen();
             break;
         case Qt::Key_Home:
             first();

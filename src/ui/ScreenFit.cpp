@@ -101,6 +101,14 @@ void ScrollPage::bringIntoSight(const QWidget& control) {
                   place.height() / 2 + around);
 }
 
+// Its own size follows the form's.
+bool ScrollPage::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+    }
+    return QScrollArea::event(event);
+}
+
 QSize ScrollPage::sizeHint() const {
     return widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
 }

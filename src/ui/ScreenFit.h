@@ -19,6 +19,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void bringIntoSight(const QWidget& control);
 };

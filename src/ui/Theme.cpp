@@ -1,5 +1,8 @@
 #include "ui/Theme.h"
 
+#include "platform/seat/HighContrast.h"
+#include "ui/Contrast.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFont>
@@ -7,6 +10,8 @@
 #include <QStyleFactory>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 // Resources of a static library are linked in only where they are named.
 static void initResources() {
@@ -43,6 +48,55 @@ QPalette calmPalette() {
     return palette;
 }
 
+bool isStark(const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Window);
+    return (ground == QColor(Qt::black) || ground == QColor(Qt::white)) &&
+           contrast(palette.color(QPalette::WindowText), ground) >= 7;
+}
+
+QPalette whiteOnBlack() {
+    QPalette palette(Qt::black, Qt::black);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    return palette;
+}
+
+// Keeps the desktop's own inks where they can be read.
+QPalette madeReadable(QPalette palette) {
+    using Role = QPalette::ColorRole;
+    palette.setColor(QPalette::AlternateBase, palette.color(QPalette::Base));
+    constexpr std::pair<Role, Role> pairs[] = {{QPalette::WindowText, QPalette::Window},
+                                               {QPalette::Text, QPalette::Base},
+                                               {QPalette::ButtonText, QPalette::Button},
+                                               {QPalette::PlaceholderText, QPalette::Base},
+                                               {QPalette::HighlightedText, QPalette::Highlight},
+                                               {QPalette::ToolTipText, QPalette::ToolTipBase},
+                                               {QPalette::Link, QPalette::Base}};
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const double least = group == QPalette::Disabled ? readableGreyed : readable;
+        for (const auto& [ink, ground] : pairs) {
+            const QColor on = palette.color(group, ground);
+            if (contrast(palette.color(group, ink), on) < least) {
+                palette.setColor(group, ink, inkOn(on));
+            }
+        }
+    }
+    return palette;
+}
+
+/// The desktop's palette where it asks for high contrast.
+std::optional<QPalette> paletteAsked(const QPalette& desktop) {
+    if (isStark(desktop)) {
+        return madeReadable(desktop);
+    }
+    return seat::wantsHighContrast() ? std::optional(madeReadable(whiteOnBlack())) : std::nullopt;
+}
+
+QString sheet(const char* name) {
+    QFile file(QStringLiteral(":/theme/%1.qss").arg(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 // A user who asked the system for larger letters keeps them.
 QFont baseFont(const QFont& system) {
     QFont font;
@@ -56,12 +110,14 @@ QFont baseFont(const QFont& system) {
 
 void applyTheme(QApplication& application) {
     initResources();
+    const auto asked = paletteAsked(application.palette());
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    application.setPalette(calmPalette());
-    QFile sheet(QStringLiteral(":/theme/theme.qss"));
-    if (sheet.open(QIODevice::ReadOnly)) {
-        application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    }
+    application.setPalette(asked.value_or(calmPalette()));
+    const bool white = inkOn(application.palette().color(QPalette::Base)) == QColor(Qt::white);
+    application.setStyleSheet(sheet("theme") +
+                              sheet(asked ? "contrast" : "calm")
+                                  .replace(QLatin1String("@ink"), white ? QLatin1String("white")
+                                                                        : QLatin1String("black")));
     // Behind the style sheet, which on Windows gives grids, menus and status bars the system's own.
     application.setFont(baseFont(application.font()));
 }

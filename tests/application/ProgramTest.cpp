@@ -11,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTimer>
@@ -64,7 +63,7 @@ protected:
     /// The user reads a message box and closes it.
     void expectBox(const QString& title, QString& text) {
         user.expectForm(title, [this, &text] {
-            text = dynamic_cast<QMessageBox&>(user.form()).text();
+            text = user.sees("lblText");
             user.press(Qt::Key_Escape);
         });
     }

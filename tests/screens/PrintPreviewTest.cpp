@@ -79,6 +79,26 @@ TEST_F(PrintPreviewTest, keysLeafThroughThePages) {
     });
 }
 
+TEST_F(PrintPreviewTest, thePrintersFormIsWorkedByKeysAndLeadsBack) {
+    QTemporaryDir folder;
+    user.workIn(preview, [&] {
+        for (const bool prints : {false, true}) {
+            user.expectForm("Print", [&] {
+                if (auto* file = user.form().findChild<QLineEdit*>("filename")) {
+                    file->setText(folder.filePath("printed.pdf"));
+                }
+                EXPECT_EQ(offScreen(user.form()), QStringList());
+                user.press(prints ? Qt::Key_Return : Qt::Key_Escape);
+            });
+            user.press(Qt::Key_P, Qt::ControlModifier);
+            EXPECT_EQ(QFileInfo::exists(folder.filePath("printed.pdf")), prints);
+        }
+        user.press(Qt::Key_End);
+        EXPECT_EQ(user.sees("lblPage"), "Page 3 of 3") << "the keys are the preview's again";
+        user.press(Qt::Key_Escape);
+    });
+}
+
 TEST_F(PrintPreviewTest, thePagesAreKeptAsAFileOrItIsSaidWhyNot) {
     QTemporaryDir folder;
     const QString path = folder.filePath("kept.pdf");

@@ -52,6 +52,7 @@ TEST_F(SupervisorTest, oneSupervisorLendsARight) {
         EXPECT_EQ(desk.shown.last(),
                   "100414|The Supervisor User Code DOES NOT have sufficient rights to grant access "
                   "for this Security Request");
+        EXPECT_EQ(user.sees("lblRequest"), "Delete repair orders (CRO 2)");
         keepPicture(user.form(), "supervisor");
         const QString code(40, 'X');
         authorise(code, code);
@@ -84,6 +85,7 @@ TEST_F(SupervisorTest, twoSupervisorsLendARightTogether) {
         EXPECT_TRUE(namelessControls(user.form()).isEmpty());
         EXPECT_TRUE(clippedControls(user.form()).isEmpty());
         EXPECT_EQ(user.find<velcro::ui::KeyButton>("btnOK").keyCap(), "") << "no key presses it";
+        EXPECT_EQ(user.sees("lblRequest"), "Give a discount on quotations (CRO 5)");
         const auto proceed = [&](const char* code1, const char* pswd1, const char* code2,
                                  const char* pswd2) {
             user.typeInto("edSuper1", code1);

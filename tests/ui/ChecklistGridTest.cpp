@@ -1,6 +1,7 @@
 // A checklist under keys, a finger and a screen reader.
 #include "ui/ChecklistGrid.h"
 
+#include "support/FocusTold.h"
 #include "support/ScreenChecks.h"
 #include "ui/Theme.h"
 
@@ -97,6 +98,32 @@ TEST_F(ChecklistGridTest, KeysTickAndTypeTheNotes) {
     press(Qt::Key_Left);
     type("z");
     EXPECT_FALSE(isTypedInto()) << "only the note is typed into";
+}
+
+TEST_F(ChecklistGridTest, KeysThatFollowTheEndOfANoteAtOnceAreNotItsLetters) {
+    list.setFocus();
+    list.locate("Code", "BAG");
+    list.setCurrentIndex(list.model()->index(0, 3));
+    for (const auto& [ends, modifiers] :
+         {std::pair(Qt::Key_Return, Qt::NoModifier), std::pair(Qt::Key_Tab, Qt::ControlModifier)}) {
+        type("worn");
+        QTest::keyClick(QApplication::focusWidget(), ends, modifiers);
+        EXPECT_EQ(QApplication::focusWidget(), &list) << ends;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    }
+    EXPECT_EQ(ticked(), "") << "ticked once and unticked once";
+    EXPECT_EQ(list.rowModel().stored(0, 3), "worn");
+}
+
+TEST_F(ChecklistGridTest, AScreenReaderIsToldTheCellThatTheUserGoesTo) {
+    list.setFocus();
+    const auto told = velcro::test::focusTold([this] {
+        press(Qt::Key_Down);
+        press(Qt::Key_Right);
+        press(Qt::Key_Right);
+        press(Qt::Key_Down);
+    });
+    EXPECT_EQ(told.join('|'), "BATT not ticked|BATT|Battery|Power cord");
 }
 
 TEST_F(ChecklistGridTest, ATapAnywhereInTheTicksCellTicks) {

@@ -162,6 +162,43 @@ TEST(EventsTest, aKeyForAFormThatIsGoneWaitsForTheWindowBelowAndItsHandler) {
     EXPECT_EQ(steps, (QStringList{"begin", "end", "begin", "end"}));
 }
 
+TEST(EventsTest, aTapOnAScreenThatHasGoneHitsNothingBelowIt) {
+    Desktop desktop;
+    QStringList seen;
+    int opened = 0;
+    connectHandler(&desktop.button, &QPushButton::clicked, &desktop.window,
+                   [&] { seen << "click on " + desktop.edit.text(); });
+    connectHandler(new QShortcut(Qt::Key_Insert, &desktop.window), &QShortcut::activated,
+                   &desktop.window, [&] {
+                       PumpingForm form("form");
+                       auto* close = new QPushButton(&form);
+                       form.layout()->addWidget(close);
+                       QObject::connect(close, &QPushButton::clicked, &form, [&] {
+                           ++opened;
+                           pumpEvents(); // saves
+                           form.accept();
+                       });
+                       queueClick(*close); // before anybody has seen it
+                       QTimer::singleShot(400, &form, [&] {
+                           EXPECT_EQ(opened, 0);
+                           queueClick(*close);
+                           queueClick(desktop.button); // where it lies, a hasty second time
+                           queueText("x");
+                       });
+                       runModal(form);
+                   });
+    queueKey(Qt::Key_Insert);
+    takeQueue();
+    EXPECT_EQ(opened, 1);
+    queueClick(desktop.button);
+    takeQueue();
+    EXPECT_EQ(seen, QStringList()) << "nobody has seen the window below yet";
+    QTest::qWait(400);
+    queueClick(desktop.button);
+    takeQueue();
+    EXPECT_EQ(seen, QStringList("click on x")) << "keys were kept, and now it is seen";
+}
+
 TEST(EventsTest, aRunningHandlerIsNotEnteredASecondTime) {
     Desktop desktop;
     int entered = 0;

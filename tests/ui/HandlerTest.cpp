@@ -62,7 +62,7 @@ TEST_F(HandlerTest, WithoutADisplayAMessageBoxShowsIt) {
     ScriptedUser user;
     QString text;
     user.expectForm(QCoreApplication::applicationName(), [&] {
-        text = static_cast<QMessageBox&>(user.form()).text();
+        text = user.sees("lblText");
         user.press(Qt::Key_Return);
     });
     guarded([] { throw std::runtime_error("disk full"); });

@@ -2,6 +2,7 @@
 
 #include "support/ScreenChecks.h"
 #include "support/ScriptedUser.h"
+#include "ui/MessageBox.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -24,7 +25,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override {
         QDialog::showEvent(event);
-        velcro::ui::showMessageBox(nullptr, QMessageBox::Critical, "box", "text");
+        velcro::ui::showMessageBox(nullptr, "box", "text");
     }
 };
 
@@ -77,7 +78,7 @@ TEST(ModalTest, theKeyboardGoesBackToTheWindowBelow) {
     form.setWindowTitle(QStringLiteral("form"));
     user.workIn(form, [&] {
         user.expectForm("box", [&] { user.press(Qt::Key_Return); });
-        velcro::ui::showMessageBox(nullptr, QMessageBox::Critical, "box", "text");
+        velcro::ui::showMessageBox(nullptr, "box", "text");
         QApplication::processEvents();
         EXPECT_EQ(QApplication::activeWindow(), &form);
         user.press(Qt::Key_Escape);

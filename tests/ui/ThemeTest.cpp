@@ -1,28 +1,21 @@
 #include "ui/Theme.h"
 
+#include "ui/Contrast.h"
+#include "ui/KeyButton.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QStyledItemDelegate>
-#include <cmath>
+#include <QTabBar>
 #include <gtest/gtest.h>
 
+using namespace velcro::ui;
+
 namespace {
-
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
 
 /// The colour that the rule gives the property; invalid without one.
 QColor colourOf(const QString& rule, const QString& property) {
@@ -30,10 +23,8 @@ QColor colourOf(const QString& rule, const QString& property) {
     return QColor(stated.match(rule).captured(1));
 }
 
-} // namespace
-
-TEST(ThemeTest, textStandsOutFromWhatItStandsOn) {
-    const QPalette palette = QApplication::palette();
+/// Every text of the palette against what it stands on.
+void expectReadable(const QPalette& palette) {
     const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
         {QPalette::WindowText, QPalette::Window},
         {QPalette::Text, QPalette::Base},
@@ -49,6 +40,49 @@ TEST(ThemeTest, textStandsOutFromWhatItStandsOn) {
                   3)
             << "disabled " << ink;
     }
+}
+
+/// Dresses the program on a desktop of that palette, and as before in the end.
+class Desktop
+{
+public:
+    explicit Desktop(const QPalette& palette) {
+        qApp->setPalette(palette);
+        applyTheme(*qApp);
+    }
+    ~Desktop() {
+        qApp->setPalette(QPalette(QColor(0xef, 0xef, 0xef)));
+        applyTheme(*qApp);
+    }
+};
+
+/// How far the darkest and the lightest dot of the widget's picture lie apart.
+double contrastIn(QWidget& widget) {
+    const QImage seen = widget.grab().toImage();
+    QColor darkest = Qt::white;
+    QColor lightest = Qt::black;
+    for (int y = 4; y < seen.height() - 4; ++y) {
+        for (int x = 4; x < seen.width() - 4; ++x) {
+            const QColor dot = seen.pixelColor(x, y);
+            darkest = dot.lightnessF() < darkest.lightnessF() ? dot : darkest;
+            lightest = dot.lightnessF() > lightest.lightnessF() ? dot : lightest;
+        }
+    }
+    return contrast(darkest, lightest);
+}
+
+} // namespace
+
+TEST(ThemeTest, contrastIsCountedAsTheGuidelinesDo) {
+    EXPECT_DOUBLE_EQ(contrast(Qt::black, Qt::white), 21);
+    EXPECT_NEAR(contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.01);
+    for (const QRgb ground : {0xff3a5ea4, 0xff3dbc66, 0xffff0000, 0xff808080}) {
+        EXPECT_GE(contrast(inkOn(ground), ground), 4.5) << "a caption of the menu";
+    }
+}
+
+TEST(ThemeTest, textStandsOutFromWhatItStandsOn) {
+    expectReadable(QApplication::palette());
     int rules = 0;
     for (const QString& rule : qApp->styleSheet().split('}')) {
         const QColor ink = colourOf(rule, "color");
@@ -58,11 +92,53 @@ TEST(ThemeTest, textStandsOutFromWhatItStandsOn) {
             EXPECT_GE(contrast(ink, ground), rule.contains(":disabled") ? 3 : 4.5)
                 << rule.toStdString();
         }
-        if (rule.contains("QLineEdit") && colourOf(rule, "border").isValid()) {
-            EXPECT_GE(contrast(colourOf(rule, "border"), Qt::white), 3) << rule.toStdString();
+        if (rule.contains("QLineEdit") && colourOf(rule, "border-color").isValid()) {
+            EXPECT_GE(contrast(colourOf(rule, "border-color"), Qt::white), 3) << rule.toStdString();
         }
     }
     EXPECT_GT(rules, 5);
+}
+
+TEST(ThemeTest, aDesktopOfHighContrastIsFollowed) {
+    QPalette yellow(Qt::yellow, Qt::black, Qt::white, Qt::darkGray, Qt::gray, Qt::yellow, Qt::white,
+                    Qt::black, Qt::black);
+    yellow.setColor(QPalette::Highlight, Qt::blue);
+    yellow.setColor(QPalette::HighlightedText, Qt::white);
+    const Desktop desktop(yellow);
+    EXPECT_EQ(QApplication::palette().color(QPalette::WindowText), QColor(Qt::yellow));
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(Qt::blue));
+    expectReadable(QApplication::palette());
+    QLineEdit edit("SN100100002");
+    KeyButton button("Save");
+    KeyButton greyed("Save");
+    greyed.setEnabled(false);
+    KeyButton main("Save");
+    main.setRole(KeyButton::Role::Main);
+    QComboBox combo;
+    combo.addItem("WALKIN");
+    QTabBar tabs;
+    tabs.addTab("Faults");
+    QGroupBox group("Billing");
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{&edit, &button, &greyed, &main, &combo, &tabs, &group}) {
+        control->resize(160, 46);
+        control->show();
+        EXPECT_GE(contrastIn(*control), control == &greyed ? 3 : 4.5)
+            << control->metaObject()->className();
+    }
+    EXPECT_EQ(edit.grab().toImage().pixelColor(100, 8), QColor(Qt::black))
+        << "the desktop's ground";
+}
+
+TEST(ThemeTest, aDesktopThatOnlySaysSoGetsWhiteOnBlack) {
+    qputenv("GTK_THEME", "HighContrastInverse");
+    {
+        const Desktop desktop(QPalette(QColor(0xef, 0xef, 0xef)));
+        qunsetenv("GTK_THEME");
+        EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
+        expectReadable(QApplication::palette());
+    }
+    EXPECT_NE(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
 }
 
 TEST(ThemeTest, rowsOfADropDownListAreAFingerHigh) {
@@ -71,7 +147,7 @@ TEST(ThemeTest, rowsOfADropDownListAreAFingerHigh) {
     combo.addItem("WALKIN - WALKIN");
     combo.show();
     combo.showPopup();
-    EXPECT_GE(combo.view()->sizeHintForRow(0), velcro::ui::touchHeight);
+    EXPECT_GE(combo.view()->sizeHintForRow(0), touchHeight);
 }
 
 TEST(ThemeTest, aComboShowsAsManyRowsAtATimeAsItSays) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace velcro::seat {
 
@@ -10,6 +11,8 @@ QString touchKeyboard();
 QString onScreenKeyboard();
 /// Whether the seat has one of them.
 bool hasKeyboard();
+/// What the keyboard is started with: a layout with digits, a place at the foot of the screen.
+QStringList keyboardArguments(const QString& path);
 /// Brings up this keyboard where it runs already, so that starting it would bring a second one or
 /// nothing; false when it is to be started.
 bool showRunningKeyboard(const QString& path);

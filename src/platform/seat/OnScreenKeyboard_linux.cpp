@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <algorithm>
 #include <initializer_list>
@@ -31,11 +33,25 @@ QString touchKeyboard() {
 }
 
 QString onScreenKeyboard() {
-    return firstOf({"onboard", "florence", "matchbox-keyboard", "xvkbd"});
+    return firstOf({"onboard", "florence", "xvkbd", "matchbox-keyboard"});
 }
 
 bool hasKeyboard() {
     return !touchKeyboard().isEmpty() || !onScreenKeyboard().isEmpty();
+}
+
+QStringList keyboardArguments(const QString& path) {
+    const auto name = QFileInfo(path).fileName();
+    if (name == QLatin1String("xvkbd")) {
+        const auto* screen = QGuiApplication::primaryScreen();
+        const QSize pixels = screen->size() * screen->devicePixelRatio();
+        return {QStringLiteral("-no-functionkey"), QStringLiteral("-geometry"),
+                QStringLiteral("%1x%2+0-0").arg(pixels.width()).arg(pixels.height() * 2 / 5)};
+    }
+    if (name == QLatin1String("matchbox-keyboard")) {
+        return {QStringLiteral("lq1")}; // its other layouts have no digits
+    }
+    return {};
 }
 
 // One that runs is on the screen. It is known by the first two words of each process: some are scripts

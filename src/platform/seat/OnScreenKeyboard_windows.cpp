@@ -82,6 +82,10 @@ bool hasKeyboard() {
     return !touchKeyboard().isEmpty() || !onScreenKeyboard().isEmpty();
 }
 
+QStringList keyboardArguments(const QString& /*path*/) {
+    return {};
+}
+
 // The plain keyboard, started again, shows itself; the touch keyboard waits hidden once it was
 // started, and is asked for.
 bool showRunningKeyboard(const QString& path) {
