@@ -186,6 +186,7 @@ TEST_F(ProgramTest, otherCommandLinesLeadToTheLogInFormOrToTheirError) {
         {"none", {}},
         {"five", good.mid(0, 5)},
         {"a blank user", {" ", "COUNTER", number, "01", "100", "x"}},
+        {"a blank password", {"COUNTER1", " ", number, "01", "100", "x"}},
         {"a blank number", {"COUNTER1", "COUNTER", " ", "01", "100", "x"}},
         {"an unknown number", {"COUNTER1", "COUNTER", "4711", "01", "100", "x"}},
         {"an unknown user", {"NOBODY", "COUNTER", number, "01", "100", "x"}},
@@ -267,7 +268,6 @@ TEST_F(ProgramTest, aCommonDatabaseThatCannotBeOpenedIsToldAndNothingIsMade) {
         QString databases;
         const char* reason;
     } const cases[] = {
-        {"no folder", base + "/nowhere", "was not found or cannot be read."},
         {"no database", folder("empty"), "there is no such file in"},
         {"a file for a folder", desk.configurationFile(), "was not found or cannot be read."},
         {"no database file", withFile("garbled", QByteArray(5000, 'x')),

@@ -93,24 +93,6 @@ TEST_F(ConnectionTest, connectingWhileConnectedClosesFirst) {
                                                     "disconnect", "connect OTHER"}));
 }
 
-TEST_F(ConnectionTest, theCommonAndTheTillConnectionRunALostStatementAgain) {
-    cData->ConnectDB_Common();
-    tData->ConnectDB_TIL();
-    EXPECT_TRUE(server.settings.createDatabase) << "a till may begin without its database";
-    server.answer("vcVersions", {"Version"}, {{"1"}});
-    server.lose("vcVersions");
-    server.lose("UPDATE Till");
-    read(cData->VelmaraCommon, "SELECT Version FROM vcVersions");
-    EXPECT_EQ(server.count("SELECT Version FROM vcVersions"), 2);
-    EXPECT_EQ(server.count("connect COMMON"), 2);
-
-    sfg_AddSQL("UPDATE Till", "NEW");
-    EXPECT_TRUE(tData->til_ExecSQL(1)) << gErrorMsg.toStdString();
-    const auto end = std::vector<std::string>(server.log.end() - 6, server.log.end());
-    EXPECT_EQ(end, (std::vector<std::string>{"begin", "UPDATE Till ;", "connect TILL", "begin",
-                                             "UPDATE Till ;", "commit"}));
-}
-
 TEST_F(ConnectionTest, halfOfALostTransactionIsNeverRunAgain) {
     tData->ConnectDB_TIL();
     server.lose("second");
@@ -119,23 +101,6 @@ TEST_F(ConnectionTest, halfOfALostTransactionIsNeverRunAgain) {
     EXPECT_THROW(read(tData->VelmaraTILL, "second"), SqlError);
     EXPECT_EQ(server.count("second"), 1);
     EXPECT_NO_THROW(tData->VelmaraTILL.Rollback()) << "there is nothing left to roll back";
-}
-
-TEST_F(ConnectionTest, theSuiteConnectionNeverRunsAnythingAgain) {
-    connectSuite();
-    QString shown;
-    gPrompts.errorBox = [&](const QString&, const QString& text) { shown = text; };
-    server.lose("UPDATE Order");
-    sfg_AddSQL("UPDATE Order", "NEW");
-    EXPECT_FALSE(gData->vel_ExecSQL(1));
-    EXPECT_EQ(shown, "SQL Error\rLink is gone.");
-    EXPECT_EQ(server.count("UPDATE Order ;"), 1);
-    EXPECT_EQ(server.count("connect SUITE"), 1);
-    // The screen stays open: the next statement connects again.
-    read(gData->Velmara, "SELECT 1");
-    EXPECT_EQ(server.count("connect SUITE"), 2);
-    EXPECT_EQ(server.count("UPDATE Order ;"), 1);
-    gPrompts = {};
 }
 
 TEST_F(ConnectionTest, aLostConnectionThatStaysDownFailsAndCanBeHadLater) {
@@ -160,21 +125,11 @@ TEST_F(ConnectionTest, beforeLogInTheServerProcessIsAnErrorThatGoesOn) {
     EXPECT_EQ(gData->VEL_GetSPID(), "57");
 }
 
-TEST_F(ConnectionTest, directWorkOnTheSuiteConnectionIsKeptAtTheEnd) {
-    connectSuite();
-    Statement layout(gData->Velmara);
-    layout.SQL.Add("UPDATE Grid");
-    layout.ExecSQL();
-    EXPECT_EQ(server.count("commit"), 0) << "a real server gets it with the next commit";
-    freeDataModules();
-    EXPECT_EQ(server.log.back(), "disconnect");
-    EXPECT_EQ(server.log[server.log.size() - 2], "commit");
-}
-
 TEST_F(ConnectionTest, closingATillThatIsNotOpenDoesNothing) {
     tData->CloseDB_TIL();
     EXPECT_TRUE(server.log.empty());
     tData->ConnectDB_TIL();
+    EXPECT_TRUE(server.settings.createDatabase) << "a till may begin without its database";
     tData->CloseDB_TIL();
     EXPECT_EQ(server.log.back(), "disconnect");
     EXPECT_FALSE(tData->VelmaraTILL.Connected());
@@ -209,17 +164,6 @@ TEST_F(ConnectionTest, aLostConnectionThatIsClosedStaysClosed) {
             EXPECT_TRUE(server.log.empty()) << name << " was opened again";
         }
     }
-}
-
-TEST_F(ConnectionTest, aTransactionThatCannotBeginIsNotBegunAgain) {
-    cData->ConnectDB_Common();
-    server.lose("begin");
-    sfg_AddSQL("UPDATE Version", "NEW");
-    EXPECT_THROW(cData->cmn_ExecSQL(), SqlError);
-    EXPECT_EQ(server.count("UPDATE Version ;"), 0);
-    sfg_AddSQL("UPDATE Version", "NEW");
-    EXPECT_TRUE(cData->cmn_ExecSQL()) << "the next one connects";
-    EXPECT_EQ(server.count("connect COMMON"), 2);
 }
 
 TEST_F(ConnectionTest, theRemoteConnectionNeverRunsAnythingAgain) {

@@ -57,7 +57,9 @@ TEST_F(DeskLoadersTest, codesComeInTheOrderOfTheirTable) {
               (QStringList{"*ALL* - Branches", "100 - Central"}));
     EXPECT_EQ(load("SYSWH", "N"),
               (QStringList{"MAIN - Main store", "SCRAP - Scrap", "SPARE - Spares cage"}));
-    EXPECT_EQ(load("SYSWH", "*BLANK*", "", "102", "A"), (QStringList{" ", "MAIN - Shop floor"}));
+    EXPECT_EQ(load("SYSWH", " *BLANK* ", "", "102", "A"), (QStringList{" ", "MAIN - Shop floor"}));
+    EXPECT_EQ(load("SYSWH", "").value(0), "*ALL* - ");
+    EXPECT_EQ(gCmbCO + gCmbBranch, "01100") << "the loaders' company stays set";
     EXPECT_EQ(
         load("SYSTAX", "N", "I"),
         (QStringList{"1 - Standard rate (15)", "1 - Standard rate to 2018 (14)",
@@ -109,11 +111,13 @@ TEST_F(DeskLoadersTest, everyKeyOfTheTableIsAStatementThatCanBeRead) {
         }
     }
     EXPECT_GT(answered, 30);
+    EXPECT_EQ(comboLoaders().size(), 111U);
 }
 
 TEST_F(DeskLoadersTest, anUnknownKeyChangesNothingAndAMissingTableIsTold) {
     combo.addItem("before");
     EXPECT_EQ(load("NOSUCHKEY", "N"), QStringList{"before"});
+    EXPECT_EQ(load("wootags", "N"), QStringList{"before"}) << "one key counts by its case";
     try {
         load("GLGCALENDAR", "N");
         ADD_FAILURE() << "there is no such table";
@@ -182,8 +186,13 @@ TEST_F(DeskLoadersTest, theLogoAndTheControlSettingsAreFound) {
     EXPECT_TRUE(sld_LoadSmallImage("IMGLOGO"));
     EXPECT_EQ(QImage::fromData(gImageStream).size(), QSize(220, 72));
     EXPECT_FALSE(sld_LoadSmallImage("NOIMAGE"));
+    desk.onSuite("UPDATE SYSRepImages SET ImageData = 0x WHERE ImageCode = 'IMGLOGO'");
+    EXPECT_FALSE(sld_LoadSmallImage("IMGLOGO"));
+    EXPECT_TRUE(gImageStream.isEmpty());
+    desk.onCommon("UPDATE vcControl SET [DBConnector] = 'c', [DBUser] = 'u', [DBPswd] = 'p'");
     EXPECT_TRUE(slc_GetControlSettings("HELPDESK"));
     EXPECT_TRUE(gSParam[1].startsWith("Telephone")) << gSParam[1].toStdString();
+    EXPECT_EQ(gSParam[2] + gSParam[3] + gSParam[4], "cup");
     EXPECT_FALSE(slc_GetControlSettings("NONE"));
     EXPECT_EQ(gSParam[1], "");
 }

@@ -8,6 +8,7 @@
 #include "support/FullDisk.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QTimer>
@@ -46,6 +47,12 @@ protected:
     QString technicians(const char* codes) const {
         return others(QStringLiteral("SELECT COUNT(*) FROM CROTechMst WHERE [TechCode] LIKE '%1'")
                           .arg(codes));
+    }
+
+    /// The batch that failed last, as it is kept.
+    QString written() const {
+        QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "no file";
     }
 
     velcro::test::DroppingServer server;
@@ -109,10 +116,7 @@ TEST_F(DurabilityTest, aSuiteBatchWhoseServerGoesAwayIsTakenBackAndNeverRunAgain
             EXPECT_FALSE(gData->vel_ExecSQL(1));
             EXPECT_EQ(desk.shown, QStringList{"box|SQL Error\r" + (call == 3 ? unsure : QString()) +
                                               "Communication link failure."});
-            QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
-            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-            EXPECT_EQ(QString::fromUtf8(file.readAll()),
-                      technician("G1") + " ;\n" + technician("G2") + " ;");
+            EXPECT_EQ(written(), technician("G1") + " ;\n" + technician("G2") + " ;");
         }
         EXPECT_TRUE(server.dropped());
         EXPECT_LE(server.statements, 1) << "it must not be sent twice";
@@ -179,11 +183,34 @@ TEST_F(DurabilityTest, aBatchThatFillsTheDiskIsToldTakenBackAndCanBeTriedAgain) 
     ASSERT_EQ(desk.shown.size(), 1);
     EXPECT_TRUE(desk.shown[0].startsWith("box|SQL Error\rThe operating system returned an error"))
         << desk.shown[0].toStdString();
-    QFile file(desk.workingFolder() + "SQL/SQLError-Velmara.TXT");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(file.readAll()), technician("H1") + " ;\n" + big + " ;");
+    EXPECT_EQ(written(), technician("H1") + " ;\n" + big + " ;");
     EXPECT_EQ(technicians("H_"), "0");
     add();
     EXPECT_TRUE(gData->vel_ExecSQL(1));
     EXPECT_EQ(technicians("H_"), "1");
+}
+
+TEST_F(DurabilityTest, aBatchOfWhichAStatementFailsIsNotThereAtAll) {
+    const std::pair<QString, QString> failures[] = {
+        {technician("A-CODE-TOO-LONG"), "String or binary data would be truncated"},
+        {"INSERT INTO CRONoTable ([CO]) VALUES ('01')", "Invalid object name 'CRONoTable'."},
+        {"UPDATE CROTechMst SOT [CO] = '1'", "Incorrect syntax near"}};
+    for (const auto& [statement, reason] : failures) {
+        desk.shown.clear();
+        // Nobody but the program makes these folders, and somebody may have tidied them away.
+        QDir(desk.workingFolder() + "SQL").removeRecursively();
+        sfg_AddSQL(technician("I1"), "NEW");
+        sfg_AddSQL(statement, "");
+        sfg_AddSQL(technician("I3"), "");
+        const QString batch = gSQL.Text();
+        EXPECT_FALSE(gData->vel_ExecSQL(1));
+        EXPECT_EQ(technicians("I_"), "0");
+        EXPECT_TRUE(desk.shown.value(0).startsWith("box|SQL Error\r" + reason))
+            << desk.shown.value(0).toStdString();
+        EXPECT_EQ(written(), batch);
+        EXPECT_TRUE(gSQL.isEmpty());
+    }
+    sfg_AddSQL(technician("I3"), "NEW");
+    EXPECT_TRUE(gData->vel_ExecSQL(1)) << "the connection works on";
+    EXPECT_EQ(technicians("I_"), "1");
 }

@@ -1,13 +1,11 @@
 #include "data/SysLoadData.h"
 
-#include "data/ComboLoaders.h"
 #include "data/DataModules.h"
 #include "data/Errors.h"
 #include "data/PeriodAndTax.h"
 #include "data/Prompts.h"
 #include "data/Session.h"
 #include "data/SysDataModel.h"
-#include "data/SysLoadCommon.h"
 #include "screens/Combos.h"
 #include "support/FailureOf.h"
 #include "support/FakeServer.h"
@@ -50,33 +48,6 @@ protected:
 
 } // namespace
 
-TEST_F(SysLoadDataTest, leadingItemsDependOnWhatTheScreenAsks) {
-    server.answer("CROTechMst", {"TechCode", "TechName"}, {{"T1", "Ann"}, {"T2", "Ben"}});
-    const std::vector<std::pair<const char*, QStringList>> cases = {
-        {"N", {}},
-        {" *BLANK* ", {" "}},
-        {"*NEW*", {" ", "<Add New>"}},
-        {"Technicians", {"*ALL* - Technicians"}},
-        {"", {"*ALL* - "}}};
-    for (const auto& [all, leading] : cases) {
-        sld_LoadCombo("crotechmst", combo, all);
-        EXPECT_EQ(items(), leading + QStringList({"T1 - Ann", "T2 - Ben"})) << all;
-    }
-    EXPECT_EQ(gCmbCO + gCmbBranch, "01100") << "the loaders' company stays set";
-}
-
-TEST_F(SysLoadDataTest, anUnknownKeyLeavesTheComboAndAFailureIsTold) {
-    const std::size_t sent = server.log.size();
-    sld_LoadCombo("NOSUCH", combo, "N");
-    sld_LoadCombo("wootags", combo, "N");
-    EXPECT_EQ(items(), QStringList{"before"});
-    EXPECT_EQ(server.log.size(), sent);
-    server.fail("WooTags", "Invalid object name.");
-    EXPECT_EQ(failureOf([this] { sld_LoadCombo("WooTags", combo, "N"); }),
-              "[SysLoadData.sld_LoadCombo] SQL Error reading object \"WooTags\".\rInvalid object "
-              "name.");
-}
-
 TEST_F(SysLoadDataTest, threeListsHaveAFormOfTheirOwn) {
     server.answer("SYSTAX", {"TaxCode", "TaxDesc", "TaxRate"}, {{"S", "Standard", "15"}});
     server.answer("GLGCBTXTP", {"TxTp", "Description", "DrCr"}, {{"PAY", "Payment", "C"}});
@@ -97,33 +68,6 @@ TEST_F(SysLoadDataTest, aLongListShowsTwentyAtATime) {
     sld_LoadCombo("CROProcessMst", combo, "N");
     EXPECT_EQ(combo.count(), 25);
     EXPECT_EQ(combo.maxVisibleItems(), 20);
-}
-
-TEST_F(SysLoadDataTest, statementsFollowTheTableOfLoaders) {
-    EXPECT_EQ(comboLoaders().size(), 111U);
-    const auto sql = [](const char* key, const char* p1 = "", const char* p2 = "",
-                        const char* p3 = "", const char* company = "02") {
-        return sld_LoadComboSQL(key, p1, p2, p3, company, "200");
-    };
-    EXPECT_EQ(sql("CROCodeMaster", "FAULT"),
-              "SELECT [Code], [Description]  FROM CROCodeMaster WITH (NOLOCK) WHERE [CO] = '01'"
-              "   AND [CodeType] = 'FAULT' ORDER BY [Description]");
-    EXPECT_EQ(sql("CROProcessMst"),
-              "SELECT [ProcessCode], [Description]  FROM CROProcessMst WITH (NOLOCK) WHERE [CO] = "
-              "'01' ORDER BY [ProcessSeq]");
-    EXPECT_TRUE(sql("syscompany").endsWith("FROM SYSCOMPANY WITH (NOLOCK) ORDER BY [CO]"));
-    EXPECT_TRUE(sql("SYSBRANCH", "Y", "X")
-                    .endsWith(" WHERE [CO] = '02'   AND [TradingBranch] = 'Y' AND [BranchCategory] "
-                              "<> 'H' ORDER BY [DisplaySeq], [Branch]"));
-    EXPECT_TRUE(sql("SYSBRANCH", "N", "X", "", "*ALL*")
-                    .endsWith(" WHERE [TradingBranch] = 'Y' ORDER BY [DisplaySeq], [Branch]"));
-    EXPECT_TRUE(sql("SYSWH", "", "", "A")
-                    .endsWith(" WHERE [CO] = '02'   AND [Branch] = '200'   AND [WHStatus] = 'A' "
-                              "ORDER BY [WH]"));
-    EXPECT_TRUE(sql("SYSTXTP", "", "3").endsWith(" WHERE [AllowGL] = 'Y' ORDER BY [TxTp]"));
-    EXPECT_TRUE(sql("SYSTAX", "O").endsWith(" WHERE [Usage] IN ('B','O') ORDER BY [SeqNo]"));
-    EXPECT_TRUE(sql("SYSCODEMASTER", "T", "N", " ORDER BY [Description]")
-                    .endsWith("'T'  AND [UserFld3] <> 'N' ORDER BY [Description]"));
 }
 
 TEST_F(SysLoadDataTest, aKeyIsTakenWhenTheStatementGivesARow) {
@@ -214,22 +158,4 @@ TEST_F(SysLoadDataTest, theFirstRateThatHoldsOnTheDateCounts) {
     EXPECT_DOUBLE_EQ(sfvel_GetVATRate("S", "1999/12/31"), 0);
     EXPECT_DOUBLE_EQ(sfvel_GetVATRate("Z", "2018/04/01"), 0);
     EXPECT_EQ(gVatRates[0]->FromDate, "2000/01/01");
-}
-
-TEST_F(SysLoadDataTest, aSmallImageIsThereOrNot) {
-    gImageStream = "old";
-    EXPECT_FALSE(sld_LoadSmallImage("IMGLOGO"));
-    server.answer("IMGLOGO", {"ImageData"}, {{""}});
-    EXPECT_FALSE(sld_LoadSmallImage("IMGLOGO"));
-    EXPECT_TRUE(gImageStream.isEmpty());
-    server.answer("IMGLOGO", {"ImageData"}, {{std::string("\x89PNG\0x", 6)}});
-    EXPECT_TRUE(sld_LoadSmallImage("IMGLOGO"));
-    EXPECT_EQ(gImageStream, QByteArray("\x89PNG\0x", 6));
-
-    cData->ConnectDB_Common();
-    EXPECT_FALSE(slc_GetControlSettings("SMS"));
-    server.answer("vcControl", {"Details", "DBConnector", "DBUser", "DBPswd"},
-                  {{"d", "c", "u", "p"}});
-    EXPECT_TRUE(slc_GetControlSettings("SMS"));
-    EXPECT_EQ(gSParam[1] + gSParam[2] + gSParam[3] + gSParam[4], "dcup");
 }

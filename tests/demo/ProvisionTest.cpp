@@ -1,6 +1,8 @@
 // A sample seat as ./run and an installed program make it.
 #include "platform/sqlserver/SqlConnection.h"
 #include "support/CommandLine.h"
+#include "support/EmbeddedDatabase.h"
+#include "support/Rows.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -142,106 +144,12 @@ TEST_F(ProvisionTest, StructureScriptsCanBeRunAgain) {
     EXPECT_EQ(count(*again, "SELECT COUNT(*) FROM CRORepMst"), 600);
 }
 
-TEST_F(ProvisionTest, HoldsTheRowsThatArePromised) {
-    struct Promise
-    {
-        const char* database;
-        const char* what;
-        std::int64_t least;
-    };
-    const Promise promises[] = {
-        {"VELSUITE", "SYSCompany", 2},
-        {"VELSUITE", "SYSBranch", 3},
-        {"VELSUITE", "SYSUser", 12},
-        {"VELSUITE", "DEBMaster", 3000},
-        {"VELSUITE", "STKMaster", 2000},
-        {"VELSUITE", "STKPrice", 4000},
-        {"VELSUITE", "STKBalance", 1500},
-        {"VELSUITE", "STKAltBarcodes", 200},
-        {"VELSUITE", "STKAltSuppliers", 200},
-        {"VELSUITE", "STKKitMaster", 20},
-        {"VELSUITE", "STKSerialMst", 2000},
-        {"VELSUITE", "CRORepMst", 600},
-        {"VELSUITE", "CRORepItems", 600},
-        {"VELSUITE", "CRORepItmIntake", 600},
-        {"VELSUITE", "CRORepItmFaults", 600},
-        {"VELSUITE", "CRORepItmProcess", 600},
-        {"VELSUITE", "CRORepItmQuoteHdr", 600},
-        {"VELSUITE", "CRORepItmQuoteDet", 600},
-        {"VELSUITE", "CRORepItmImages", 3},
-        {"VELSUITE", "CROTechMst", 10},
-        {"VELCOMMON", "vcSettings", 5},
-        {"VELCOMMON", "vcErrorMessages", 5},
-        {"VELCOMMON", "vcSysParmControl", 30},
-        {"VELCOMMON", "vcSysAccess", 12},
-        {"VELCOMMON", "vcHelpDetl WHERE [FormCode] = 'CRO100'", 10},
-    };
-    for (const auto& promise : promises) {
-        auto connection = connect(promise.database);
-        const auto statement = std::string("SELECT COUNT(*) FROM ") + promise.what;
-        EXPECT_GE(count(*connection, statement), promise.least) << promise.what;
-    }
-    auto till = connect("VELTILL");
-    EXPECT_EQ(count(*till, "SELECT COUNT(*) FROM SYSTillControl"), 0);
-    auto common = connect("VELCOMMON");
-    const auto rows = common->query("SELECT [Version] FROM vcVersions WHERE [Suite] = 'VELMARA'"
-                                    "   AND [PgmName] = 'velCRO'");
-    EXPECT_EQ(rows.rowCount() == 1 ? rows.text(0, 0) : "", "14.47.41");
-}
-
-TEST_F(ProvisionTest, LinksBetweenTablesHold) {
-    const std::string item = " WHERE T1.CO = T0.CO AND T1.Branch = T0.Branch"
-                             " AND T1.CRONo = T0.CRONo";
-    const std::string itemNo = " AND T1.ItemNo = T0.ItemNo";
-    const std::string share = " LEFT OUTER JOIN SYSBRShare S ON S.CO = T0.CO"
-                              " AND S.Branch = T0.Branch";
-    const auto lost = [](const std::string& from, const std::string& in, const std::string& where) {
-        return "SELECT COUNT(*) FROM " + from + " WHERE NOT EXISTS (SELECT T1.RecID FROM " + in +
-               " T1" + where + ")";
-    };
-    const std::pair<const char*, std::string> links[] = {
-        {"items without an order", lost("CRORepItems T0", "CRORepMst", item)},
-        {"intakes without an item", lost("CRORepItmIntake T0", "CRORepItems", item + itemNo)},
-        {"faults without an item", lost("CRORepItmFaults T0", "CRORepItems", item + itemNo)},
-        {"steps without an order", lost("CRORepItmProcess T0", "CRORepMst", item)},
-        {"items without a quotation", lost("CRORepItems T0", "CRORepItmQuoteHdr", item + itemNo)},
-        {"lines without a quotation",
-         lost("CRORepItmQuoteDet T0", "CRORepItmQuoteHdr", item + itemNo)},
-        {"fault codes that are not known",
-         lost("CRORepItmFaults T0", "CROCodeMaster",
-              " WHERE T1.CO = T0.CO AND T1.CodeType = 'F' AND T1.Code = T0.FaultCode")},
-        {"technicians that are not known",
-         lost("CRORepItmProcess T0", "CROTechMst",
-              " WHERE T1.CO = T0.CO AND T1.TechCode = T0.TechCode")},
-        {"accounts that are not among the branch's debtors",
-         lost("CRORepMst T0" + share, "DEBMaster",
-              " WHERE T1.CO = T0.CO AND T1.Branch = COALESCE(S.SHDEB, T0.Branch)"
-              " AND T1.Account = T0.Account")},
-        {"serial numbers that are not in the branch's stock",
-         lost("CRORepItems T0" + share, "STKSerialMst",
-              " WHERE T1.CO = T0.CO AND T1.Branch = COALESCE(S.SHSTK, T0.Branch)"
-              " AND T1.SerialNo = T0.SerialNo")},
-        {"serial numbers without a stock item",
-         lost("STKSerialMst T0", "STKMaster",
-              " WHERE T1.CO = T0.CO AND T1.Branch = T0.Branch AND T1.StockCode = T0.StockCode"
-              " AND T1.LinkCode = T0.LinkCode")},
-        {"branch codes that are no numbers", "SELECT COUNT(*) FROM SYSBranch"
-                                             " WHERE [Branch] LIKE '%[^0-9]%'"},
-        {"received items that do not count the items",
-         "SELECT COUNT(*) FROM CRORepMst T0 WHERE T0.ReceiveItems <> (SELECT COUNT(T1.RecID)"
-         " FROM CRORepItems T1" +
-             item + ")"},
-        {"quotation lines that do not add up",
-         "SELECT COUNT(*) FROM CRORepItmQuoteDet WHERE ABS(Quantity * PriceExcl - LineTotalExcl)"
-         " > 0.005 OR ABS(LineTotalIncl - LineTotalExcl - LineVAT) > 0.005"
-         " OR ABS(LineTotalExcl - TotalCostExcl - Profit) > 0.005"},
-        {"steps whose time does not cast",
-         "SELECT COUNT(*) FROM CRORepItmProcess"
-         " WHERE CAST(CONCAT([TranDate], ' ', [TranTime]) AS DATETIME) IS NULL"},
-    };
-    auto suite = connect("VELSUITE");
-    for (const auto& [what, statement] : links) {
-        EXPECT_EQ(count(*suite, statement), 0) << what;
+TEST_F(ProvisionTest, TheSampleHoldsWhatIsPromised) {
+    for (const auto& [database, questions] : velcro::test::sectionsOf(SAMPLE_ROWS)) {
+        const auto connection = connect(database);
+        for (const auto& [text, answer] : questions) {
+            EXPECT_EQ(velcro::test::EmbeddedDatabase::answerOf(*connection, text), answer) << text;
+        }
     }
 }
 
@@ -260,57 +168,4 @@ TEST_F(ProvisionTest, TelephoneNumbersPassTheCheckOfTheOrderScreen) {
             ASSERT_TRUE(std::regex_match(number, pattern)) << numbers << ": " << number;
         }
     }
-}
-
-TEST_F(ProvisionTest, EveryOptionLetterAndEveryLevelOfParametersIsThere) {
-    auto suite = connect("VELSUITE");
-    for (const char* letter : {"Y", "S", "F", "G", "D", "W", "V", "N", "", "X"}) {
-        EXPECT_GE(count(*suite, std::string("SELECT COUNT(*) FROM SYSGrpAccess WHERE [UserGroup] ="
-                                            " 'CNTR' AND [Options] = '") +
-                                    letter + "'"),
-                  1)
-            << "letter \"" << letter << '"';
-    }
-    const char* const levels[] = {
-        "SYSParameter WHERE [Branch] = '' AND [ModCode] = ''",
-        "SYSParameter WHERE [Branch] = '100' AND [ModCode] = ''",
-        "SYSParameter WHERE [Branch] = '' AND [ModCode] IN ('CRD', 'GSM', 'GLG')",
-        "SYSParameter WHERE [Branch] <> '' AND [ModCode] NOT IN ('', 'CRD', 'GSM', 'GLG')",
-        "SYSGrpParam"};
-    for (const char* level : levels) {
-        EXPECT_GE(count(*suite, std::string("SELECT COUNT(*) FROM ") + level), 1) << level;
-    }
-}
-
-TEST_F(ProvisionTest, NewNumbersGoOnBehindTheSampleOrders) {
-    auto suite = connect("VELSUITE");
-    const auto next = [&](const char* branch, const char* type) {
-        const sql::Parameter parameters[] = {{"CO", std::string("01")},
-                                             {"BRANCH", std::string(branch)},
-                                             {"MODCODE", std::string("CRO")},
-                                             {"TXTP", std::string(type)}};
-        const auto rows =
-            suite->query("EXEC VELMARA_GENERATE_NUMBER :CO, :BRANCH, :MODCODE, :TXTP", parameters);
-        return rows.rowCount() == 1 ? rows.integer(0, *rows.columnIndex("NUMBER")) : -1;
-    };
-    EXPECT_EQ(next("100", "CROMST"), 100501);
-    EXPECT_EQ(next("100", "CROMST"), 100502);
-    EXPECT_EQ(next("101", "CROMST"), 200501);
-    EXPECT_EQ(next("100", "CROQOT"), 501001);
-}
-
-TEST_F(ProvisionTest, TextAndPicturesArriveUnharmed) {
-    auto suite = connect("VELSUITE");
-    const auto user = suite->query("SELECT [UserName] FROM SYSUser WHERE [UserCode] = 'COUNTER2'");
-    EXPECT_EQ(user.text(0, 0), "Jörund Ekvåll");
-    const auto debtor = suite->query("SELECT [Name] FROM DEBMaster WHERE [Account] = 'C00002'");
-    EXPECT_EQ(debtor.text(0, 0), "O'Brackenfell Guest House & Wedding Venue");
-    EXPECT_GE(count(*suite, "SELECT COUNT(*) FROM DEBMaster WHERE [Name] LIKE N'%高瀬谷%'"), 5);
-    const auto logo = suite->query("SELECT [ImageData] FROM SysRepImages WHERE [ImageCode] ="
-                                   " 'IMGLOGO'");
-    ASSERT_EQ(logo.rowCount(), 1U);
-    EXPECT_EQ(logo.bytes(0, 0).substr(0, 4), "\x89PNG");
-    const auto picture = suite->query("SELECT [ImageData] FROM CRORepItmImages");
-    EXPECT_EQ(picture.bytes(0, 0).substr(0, 2), "BM");
-    EXPECT_EQ(picture.bytes(0, 0).size(), 54U + 64 * 48 * 3);
 }

@@ -3,6 +3,7 @@
 #include "schema/TillSeat.h"
 #include "support/FailureOf.h"
 #include "support/FakeServer.h"
+#include "support/Rows.h"
 
 #include <gtest/gtest.h>
 
@@ -13,181 +14,53 @@ using velcro::test::TillSeat;
 
 namespace {
 
-constexpr const char* table = "CREATE TABLE T (RecID int IDENTITY(1, 1) NOT NULL, A varchar(5),"
-                              " N nvarchar(20), M nvarchar(max), F float DEFAULT 0 NOT NULL)";
-constexpr const char* indexEnd =
-    " WITH (  PAD_INDEX = OFF,  DROP_EXISTING = OFF,  STATISTICS_NORECOMPUTE = OFF, "
-    " SORT_IN_TEMPDB = OFF,  ONLINE = OFF,  ALLOW_ROW_LOCKS = ON,  ALLOW_PAGE_LOCKS = ON) "
-    " ON [PRIMARY] ";
+/// "add column|X|int|4|2": the answer of that call on T.
+bool called(const QStringList& call) {
+    const QString verb = call[0], name = call[1];
+    return verb == "add column"     ? sdb_AddColumn("T", name, call[2], call[3], call[4])
+           : verb == "alter column" ? sdb_AlterColumn("T", name, call[2], call[3])
+           : verb == "drop column"  ? sdb_DropColumn("T", name)
+           : verb == "drop table"   ? sdb_DropTable(name)
+           : verb == "add index"    ? sdb_AddIndex(" T ", name, call[2], call[3])
+           : verb == "drop index"   ? sdb_DropIndex("T", name)
+                                    : sdb_Drop_StoredProc(name);
+}
 
-struct Call
+/// A database that has T.
+struct TableT : EmbeddedDatabase
 {
-    const char* what;
-    std::vector<std::string> before; // statements on a database that has T
-    std::function<bool()> call;
-    bool answer;
-    QStringList sent;
-    int refused = 0;
-};
-
-void expect(const std::vector<Call>& calls) {
-    for (const auto& [what, before, call, answer, sent, refused] : calls) {
-        SCOPED_TRACE(what);
-        EmbeddedDatabase database;
-        EXPECT_EQ(database.answer(table), "(-1)");
-        for (const auto& statement : before) {
-            EXPECT_EQ(database.answer(statement).find("error"), std::string::npos) << statement;
-        }
-        TillSeat seat(database.folder().path().string());
-        EXPECT_EQ(call(), answer);
-        EXPECT_EQ(seat.sent.join('\n').toStdString(), sent.join('\n').toStdString());
-        EXPECT_EQ(seat.refused.size(), refused);
-        EXPECT_EQ(gErrorMsg.isEmpty(), answer || sent.isEmpty()) << gErrorMsg.toStdString();
+    TableT() {
+        const auto first = velcro::test::sectionsOf(PRIMITIVES).front().questions.front();
+        EXPECT_EQ(answer(first.text), first.answer);
     }
-}
-
-std::function<bool()> add(const char* column, const char* type, const char* length,
-                          const char* value) {
-    return [=] { return sdb_AddColumn("T", column, type, length, value); };
-}
-
-std::function<bool()> alter(const char* column, const char* type, const char* length) {
-    return [=] { return sdb_AlterColumn("T", column, type, length); };
-}
+};
 
 } // namespace
 
-TEST(SysDBGenTest, columnsAreAddedWithTheirDefaults) {
-    const QString adds = "ALTER TABLE [dbo].[T] ADD [X] ";
-    expect({
-        {"there", {}, add("a", "nvarchar", "50", "N"), false, {}},
-        {"text",
-         {},
-         add("X", "nvarchar", "5", ""),
-         true,
-         {adds + "nvarchar(5) NOT NULL DEFAULT ('') "}},
-        {"blank default",
-         {},
-         add("X", "varchar", "5", "  "),
-         true,
-         {adds + "varchar(5) NOT NULL DEFAULT ('') "}},
-        {"default",
-         {},
-         add("X", "char", "1", "N"),
-         true,
-         {adds + "char(1) NOT NULL DEFAULT ('N') "}},
-        {"quote",
-         {},
-         add("X", "nvarchar", "9", "O'B"),
-         true,
-         {adds + "nvarchar(9) NOT NULL DEFAULT ('O''B') "}},
-        {"max",
-         {},
-         add("X", "nvarchar", "max", ""),
-         true,
-         {adds + "nvarchar(max) NOT NULL DEFAULT ('') "}},
-        {"ntext",
-         {},
-         add("X", "ntext", "1000", "N"),
-         true,
-         {adds + "ntext NOT NULL DEFAULT ('') "}},
-        {"image", {}, add("X", "image", "", ""), true, {adds + "image NOT NULL DEFAULT ('') "}},
-        {"float", {}, add("X", "float", "", "5"), true, {adds + "float NOT NULL DEFAULT (0)"}},
-        {"int", {}, add("X", "int", "4", "2"), true, {adds + "int NOT NULL DEFAULT (0)"}},
-        {"money", {}, add("X", "money", "", ""), true, {adds + "money NOT NULL DEFAULT (0)"}},
-        {"other", {}, add("X", "datetime", "8", "x"), true, {adds + "datetime"}},
-        {"upper case", {}, add("X", "INT", "", ""), true, {adds + "INT"}},
-        {"no such type", {}, add("X", "stuff", "", ""), false, {adds + "stuff"}, 1},
-    });
-}
-
-TEST(SysDBGenTest, onlyTheLengthOfATextIsAltered) {
-    const QString alters = "ALTER TABLE [dbo].[T]  ALTER COLUMN ";
-    expect({
-        {"missing", {}, alter("X", "nvarchar", "9"), true, {}},
-        {"another type", {}, alter("A", "nvarchar", "9"), true, {}},
-        {"type in upper case", {}, alter("N", "NVARCHAR", "9"), true, {}},
-        {"same length", {}, alter("n", "nvarchar", "20"), true, {}},
-        {"a number", {}, alter("F", "float", "0"), true, {}},
-        {"wider", {}, alter("N", "nvarchar", "30"), true, {alters + "[N] nvarchar(30)"}},
-        {"narrower", {}, alter("A", "varchar", "3"), true, {alters + "[A] varchar(3)"}},
-        {"max again", {}, alter("M", "nvarchar", "max"), true, {alters + "[M] nvarchar(max)"}},
-        {"no number", {}, alter("A", "varchar", "wide"), false, {alters + "[A] varchar(wide)"}, 1},
-        {"too narrow for a row",
-         {"INSERT INTO T (N) VALUES ('twelve texts')"},
-         alter("N", "nvarchar", "3"),
-         false,
-         {alters + "[N] nvarchar(3)"},
-         1},
-        {"in a plain index",
-         {"CREATE INDEX [ T_idx01] ON T (A) INCLUDE (N)"},
-         alter("N", "nvarchar", "30"),
-         true,
-         {"DROP INDEX [  T_idx01] ON [dbo].[T] ", alters + "[N] nvarchar(30)"},
-         1},
-        {"unique",
-         {"CREATE UNIQUE INDEX T_idx01 ON T (N)"},
-         alter("N", "nvarchar", "30"),
-         true,
-         {alters + "[N] nvarchar(30)"}},
-    });
-}
-
-TEST(SysDBGenTest, tablesColumnsAndProceduresGo) {
-    const auto dropColumn = [](const char* column) {
-        return [=] { return sdb_DropColumn("T", column); };
-    };
-    const QString drops = "ALTER TABLE [dbo].[T]  DROP COLUMN ";
-    const QString procedure = "IF  EXISTS ( SELECT * FROM sys.objects   WHERE object_id = "
-                              "OBJECT_ID(N'[dbo].[P]')    AND type in (N'P', N'PC')) DROP "
-                              "PROCEDURE [dbo].[P]";
-    expect({
-        {"no table", {}, [] { return sdb_DropTable("X"); }, true, {}},
-        {"table", {}, [] { return sdb_DropTable("t"); }, true, {"DROP TABLE [t]"}},
-        {"view",
-         {"CREATE VIEW V AS SELECT A FROM T"},
-         [] { return sdb_DropTable("V"); },
-         false,
-         {"DROP TABLE [V]"},
-         1},
-        {"no column", {}, dropColumn("X"), true, {}},
-        {"column", {}, dropColumn("A"), true, {drops + "[A] "}},
-        {"column with a default stays", {}, dropColumn("F"), false, {drops + "[F] "}, 1},
-        {"no procedure", {}, [] { return sdb_Drop_StoredProc("[dbo].[P]"); }, true, {procedure}},
-        {"procedure",
-         {"CREATE PROCEDURE P AS SELECT 1"},
-         [] { return sdb_Drop_StoredProc("[dbo].[P]"); },
-         true,
-         {procedure}},
-    });
-}
-
-TEST(SysDBGenTest, indexesAreKnownByTheirNameAlone) {
-    const auto addIndex = [](const char* include) {
-        return [=] { return sdb_AddIndex(" T ", " T_idx01 ", " [A], [N] ", include); };
-    };
-    const QString create = "CREATE NONCLUSTERED INDEX [T_idx01] ON [dbo].[T]  ([A], [N])";
-    const QString drop = "DROP INDEX [ T_idx01] ON [dbo].[T] ";
-    const auto dropIndex = [] { return sdb_DropIndex("T", "T_idx01"); };
-    expect({
-        {"new", {}, addIndex(" "), true, {create + indexEnd}},
-        {"include", {}, addIndex("[F]"), true, {create + " INCLUDE ([F]) " + indexEnd}},
-        {"there", {"CREATE INDEX T_IDX01 ON T (N)"}, addIndex(""), true, {}},
-        {"on another table",
-         {"CREATE TABLE O (A int)", "CREATE INDEX T_idx01 ON O (A)"},
-         addIndex(""),
-         true,
-         {}},
-        {"no column",
-         {},
-         [] { return sdb_AddIndex("T", "T_idx01", "[X]", ""); },
-         false,
-         {QString("CREATE NONCLUSTERED INDEX [T_idx01] ON [dbo].[T]  ([X])") + indexEnd},
-         1},
-        {"nothing to drop", {}, dropIndex, true, {}},
-        {"a blank before its name", {"CREATE INDEX [ T_idx01] ON T (A)"}, dropIndex, true, {drop}},
-        {"no blank", {"CREATE INDEX T_idx01 ON T (A)"}, dropIndex, false, {drop}, 1},
-    });
+TEST(SysDBGenTest, eachPrimitiveSendsAndAnswersAsStated) {
+    const auto sections = velcro::test::sectionsOf(PRIMITIVES);
+    for (std::size_t i = 1; i < sections.size(); ++i) {
+        for (const auto& [text, expected] : sections[i].questions) {
+            const TableT database;
+            QStringList lines = QString::fromStdString(text).split('\n');
+            const QStringList call = lines.takeLast().split('|');
+            for (const QString& statement : lines.mid(1)) {
+                EXPECT_EQ(database.answer(statement.toStdString()).find("error"),
+                          std::string::npos);
+            }
+            TillSeat seat(database.folder().path().string());
+            const bool answer = called(call);
+            QString told = answer ? "true" : "false";
+            if (!seat.refused.isEmpty()) {
+                told += QString(", %1 refused").arg(seat.refused.size());
+            }
+            for (const QString& statement : seat.sent) {
+                told += "\n" + statement + "|";
+            }
+            EXPECT_EQ(told.toStdString(), expected) << text;
+            EXPECT_EQ(gErrorMsg.isEmpty(), answer || seat.sent.isEmpty()) << text;
+        }
+    }
 }
 
 TEST(SysDBGenTest, aTableIsMadeWithItsKeyOnce) {
@@ -206,8 +79,7 @@ TEST(SysDBGenTest, aTableIsMadeWithItsKeyOnce) {
 }
 
 TEST(SysDBGenTest, aLookUpTellsTypeAndLength) {
-    EmbeddedDatabase database;
-    database.answer(table);
+    const TableT database;
     TillSeat seat(database.folder().path().string());
     const struct
     {

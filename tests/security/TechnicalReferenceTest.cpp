@@ -57,15 +57,12 @@ TEST_F(TechnicalReferenceTest, showsWhatGovernsAScreenAndHowItStands) {
     sfvel_TechHelp("CRO100");
 }
 
-TEST_F(TechnicalReferenceTest, opensOnTheFirstPageThatHasRows) {
+TEST_F(TechnicalReferenceTest, opensOnTheFirstPageThatHasRowsOrSaysThatThereIsNone) {
     user.expectForm(caption, [&] {
         EXPECT_EQ(user.find<QTabWidget>("pgReference").currentIndex(), 1);
         user.click("btnClose");
     });
     sfvel_TechHelp("CRO920");
-}
-
-TEST_F(TechnicalReferenceTest, aScreenWithoutNotesSaysSo) {
     user.expectForm(caption, [&] {
         EXPECT_EQ(user.sees("edDescription"),
                   "** There are NO Technical Reference Notes for this Form **");

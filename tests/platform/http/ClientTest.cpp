@@ -1,6 +1,5 @@
 #include "platform/http/Client.h"
 
-#include "platform/http/Waiting.h"
 #include "support/HttpServer.h"
 #include "support/RawServer.h"
 
@@ -82,21 +81,6 @@ TEST(ClientTest, theAddressGoesAsItStandsButForWhatBreaksItsLine) {
     }
 }
 
-TEST(ClientTest, everyStatusIsAnAnswerWithItsReasonAndBody) {
-    const std::pair<int, std::string> statuses[] = {
-        {200, "OK"},           {202, "Accepted"}, {302, "Found"},
-        {401, "No such user"}, {404, ""},         {500, "Internal Server Error"},
-    };
-    for (const auto& [status, reason] : statuses) {
-        const auto line = std::to_string(status) + ' ' + reason;
-        const RawServer server([&](int) { return Reply{RawServer::whole("\xFF body", line)}; });
-        const Answer answer = Client().send(get(server.address()));
-        EXPECT_EQ(answer.status, status);
-        EXPECT_EQ(answer.reason, reason);
-        EXPECT_EQ(answer.body, "\xFF body");
-    }
-}
-
 TEST(ClientTest, aRedirectIsFollowedWhereThatIsAsked) {
     const HttpServer server([](const HttpServer::Received& request) {
         return request.target == "/there"  ? HttpServer::Reply{200, "there"}
@@ -134,19 +118,6 @@ TEST(ClientTest, brokenAnswersAreToldFromBrokenNetworks) {
     }
     const std::string closedPort = RawServer([](int) { return Reply(); }).address();
     expectBegins(outcome(get(closedPort)), "network: Failed to connect to 127.0.0.1");
-}
-
-TEST(ClientTest, whatCameOfABrokenAnswerIsKept) {
-    const RawServer server(
-        [](int) { return Reply{"HTTP/1.1 206 Some of it\r\nContent-Length: 10\r\n\r\nhalf"}; });
-    try {
-        Client().send(get(server.address()));
-        FAIL() << "half an answer is none";
-    } catch (const HttpError& error) {
-        EXPECT_EQ(error.answer().status, 206);
-        EXPECT_EQ(error.answer().reason, "Some of it");
-        EXPECT_EQ(error.answer().body, "half");
-    }
 }
 
 TEST(ClientTest, anEndlessAnswerIsCutOff) {
@@ -212,15 +183,4 @@ TEST(ClientTest, aConnectionIsKeptAndARequestNeverRepeated) {
     EXPECT_EQ(server.requests().size(), 3U) << "it may have been taken";
     EXPECT_EQ(outcome(get(server.address())), "200");
     EXPECT_EQ(server.requests().size(), 4U);
-}
-
-TEST(ClientTest, theWaitCanBeWatchedAndGivenUp) {
-    const RawServer server([](int) { return Reply{"", Reply::Stall}; });
-    int looks = 0;
-    int overs = 0;
-    setWaitHook({[&](milliseconds) { return ++looks < 3; }, [&] { ++overs; }});
-    EXPECT_EQ(outcome(get(server.address())), "other: Waiting for the answer was given up.");
-    EXPECT_EQ(looks, 3);
-    EXPECT_EQ(overs, 1);
-    setWaitHook({});
 }

@@ -1,7 +1,6 @@
 #include "platform/seat/Folders.h"
 #include "platform/seat/MachineIdentity.h"
 #include "platform/seat/RegionalFormats.h"
-#include "platform/seat/Shell.h"
 #include "support/TempFolder.h"
 
 #include <QDir>
@@ -111,15 +110,4 @@ TEST(SeatTest, numbersLookTheSameOnEverySeat) {
         EXPECT_EQ(seat::groupedNumber(number, 2), text);
     }
     EXPECT_EQ(seat::groupedNumber(1234567, 0), "1 234 567");
-}
-
-TEST(SeatTest, theDesktopOpensWhatItIsGiven) {
-    QString opened;
-    seat::setDesktopOpener([&](const QString& target) {
-        opened = target;
-        return true;
-    });
-    EXPECT_TRUE(seat::openWithDesktop("/tmp/export.xlsx"));
-    EXPECT_EQ(opened, "/tmp/export.xlsx");
-    seat::setDesktopOpener({});
 }

@@ -95,11 +95,8 @@ TEST_F(SweepToolTest, whatIsPrintedIsWhatIsThenSent) {
 TEST_F(SweepToolTest, aSweepThatStopsSaysWhy) {
     database.answer("CREATE TABLE Other (B nvarchar(100))");
     database.answer("CREATE VIEW Shown AS SELECT B AS Description1 FROM Other");
-    for (const char* action : {"--print", "--run"}) {
-        const Outcome outcome = sweep(action + on());
-        EXPECT_EQ(outcome.status, 1) << action;
-        EXPECT_EQ(
-            countOf(outcome.text, "velcro-sweep: [SysTillDBMods.tb_Update_STKDesc_ColLength]"), 1)
-            << action;
-    }
+    const Outcome outcome = sweep("--run" + on());
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(countOf(outcome.text, "velcro-sweep: [SysTillDBMods.tb_Update_STKDesc_ColLength]"),
+              1);
 }

@@ -93,21 +93,6 @@ private:
 
 } // namespace
 
-TEST_F(NativeProcedureTest, isCalledAsTheDatabasesOwn) {
-    EXPECT_EQ(answer("EXEC dbo.doubled '4', N'abcdef' SELECT @@ROWCOUNT"), "8|abc!|0|1");
-    EXPECT_EQ(answer("DECLARE @r int EXEC @r = DOUBLED @Text = 1, @N = 2 SELECT @r"), "4|1!|0|0");
-    EXPECT_EQ(answer("CREATE TABLE T (a int, b nvarchar(9), c int)"
-                     " INSERT INTO T EXEC DOUBLED 5, 'x' SELECT a, b FROM T"),
-              "10|x!");
-    EXPECT_EQ(answer("EXEC DOUBLED 1"), "error 201");
-    EXPECT_EQ(answer("EXEC DOUBLED 1, 'a', 2"), "error 8144");
-    EXPECT_EQ(answer("EXEC DOUBLED 1, @Other = 2"), "error 8145");
-    EXPECT_EQ(answer("EXEC DOUBLED 'one', 'a'"), "error 8114");
-    EXPECT_EQ(answer("EXEC TRIPLED 1"), "error 2812");
-    answer("CREATE PROCEDURE DOUBLED @N int AS SELECT @N");
-    EXPECT_EQ(answer("EXEC DOUBLED 7"), "7") << "a procedure of the database goes before";
-}
-
 TEST_F(NativeProcedureTest, keepsNumbersWithTheTransactionAndHearsOfItsEnd) {
     EXPECT_EQ(answer("CREATE TABLE T (a int)"), "");
     taken();

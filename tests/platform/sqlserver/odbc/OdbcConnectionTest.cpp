@@ -139,16 +139,6 @@ TEST_F(OdbcConnectionTest, transactionsAreKeptOrTakenBack) {
     EXPECT_EQ(count(), 2U) << "without auto-commit, what was not committed is gone";
 }
 
-TEST_F(OdbcConnectionTest, affectedRowsAreCounted) {
-    connection->execute("CREATE TABLE t (n INTEGER)");
-    std::vector<std::int64_t> counts;
-    const auto collect = [&counts](StatementResult&& result) { counts.push_back(result.affected); };
-    connection->run("INSERT INTO t VALUES (1), (2), (3)", {}, collect);
-    connection->run("UPDATE t SET n = 9 WHERE n > 1", {}, collect);
-    connection->run("DELETE FROM t WHERE n = 77", {}, collect);
-    EXPECT_EQ(counts, (std::vector<std::int64_t>{3, 2, 0}));
-}
-
 TEST_F(OdbcConnectionTest, workWithoutAConnectionIsRefused) {
     connection->disconnect();
     EXPECT_FALSE(connection->isConnected());

@@ -53,9 +53,6 @@ TdsReply answer(const std::string& batch) {
             .decimalRow(0)
             .done(4);
     }
-    if (batch == "PRINT") {
-        return reply.information(0, "printed").done();
-    }
     if (batch == "first fails") {
         return reply.error(245, "Conversion failed.").done(-1, false, true);
     }
@@ -133,17 +130,6 @@ TEST_F(OdbcServerTest, aSelectThatFailsOnTheWayGivesNoRows) {
         EXPECT_FALSE(gaveRows) << batch << ": some of the rows would pass for all of them";
         EXPECT_EQ(connection->query("echo on").text(0, 0), "on");
     }
-}
-
-TEST_F(OdbcServerTest, printedTextIsInformation) {
-    connect();
-    std::vector<SqlMessage> messages;
-    connection->run("PRINT", {}, [&](StatementResult&& result) {
-        messages.insert(messages.end(), result.messages.begin(), result.messages.end());
-    });
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_EQ(messages[0].text, "printed");
-    EXPECT_LT(messages[0].level, 11);
 }
 
 TEST_F(OdbcServerTest, decimalsKeepAllTheirDigits) {
