@@ -1,8 +1,8 @@
 // Booking in: F10 to the closed header, the customer selection over 45,000 debtors, and a search in
 // it. Each against raw SQLite doing what the statements ask.
 //   BookingBench [orders to save]
-#include "Customers.h"
 #include "RawTable.h"
+#include "Shop.h"
 #include "Stopwatch.h"
 
 #include "data/DataModules.h"

@@ -1,6 +1,8 @@
 // One-shot statements, the register and its search through the embedded end, against the same work
 // hand-written for SQLite, and the register in Qt's query model. Each ratio is to the line of raw
 // SQLite before it.
+#include "Memory.h"
+
 #include "platform/sqlserver/SqlConnection.h"
 #include "ui/RowSetModel.h"
 
@@ -19,7 +21,6 @@
 #include <string>
 #include <vector>
 
-#include <malloc.h>
 #include <sqlite3.h>
 
 using namespace velcro::sql;
@@ -105,12 +106,6 @@ std::string insertText(int i) {
             (column == 1 ? "'" : ", '") + std::string("value ") + std::to_string(i + column) + "'";
     }
     return text + ")";
-}
-
-/// What the process has taken from the heap by now.
-std::size_t heapBytes() {
-    const auto info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 sqlite3_stmt* prepare(const std::string& text) {
@@ -246,7 +241,7 @@ void registerGridModelEmbedded(benchmark::State& state) {
         shown.push_back({QStringLiteral("C%1").arg(i)});
     }
     model.setColumns(std::move(shown));
-    const auto before = heapBytes();
+    const auto before = bench::heapBytes();
     for (auto _ : state) {
         model.setRows(database().embedded->query(
             "SELECT * FROM Orders WITH (NOLOCK) WHERE [CO] = '01' AND [Branch] = 'HQ'"
@@ -255,7 +250,7 @@ void registerGridModelEmbedded(benchmark::State& state) {
             benchmark::DoNotOptimize(model.data(model.index(row, 0)));
         }
     }
-    state.counters["memory"] = static_cast<double>(heapBytes() - before);
+    state.counters["memory"] = static_cast<double>(bench::heapBytes() - before);
 }
 
 /// Qt's own model over the same file, fetched to its end as the register is.
@@ -268,7 +263,7 @@ void registerQtModel(benchmark::State& state) {
         return;
     }
     for (auto _ : state) {
-        const auto before = heapBytes();
+        const auto before = bench::heapBytes();
         QSqlQueryModel model;
         model.setQuery(QStringLiteral("SELECT * FROM o WHERE CO='01' AND Branch='HQ'"
                                       " ORDER BY CRONo DESC"),
@@ -276,7 +271,7 @@ void registerQtModel(benchmark::State& state) {
         while (model.canFetchMore()) {
             model.fetchMore();
         }
-        state.counters["memory"] = static_cast<double>(heapBytes() - before);
+        state.counters["memory"] = static_cast<double>(bench::heapBytes() - before);
         state.counters["rows"] = model.rowCount();
     }
 }

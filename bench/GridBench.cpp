@@ -1,5 +1,6 @@
 // A large grid taken into a workbook, against the same cells handed to the library by hand; and the
 // list of an item with many photographs, against reading the same bytes.
+#include "Memory.h"
 #include "RawTable.h"
 #include "Stopwatch.h"
 
@@ -12,29 +13,14 @@
 #include "ui/Theme.h"
 
 #include <QApplication>
-#include <QFile>
 
 #include <stdexcept>
 
-#include <malloc.h>
 #include <xlsxwriter.h>
 
 namespace {
 
 constexpr int columns = 20;
-
-/// What the process holds in memory of its own, without the files that it has mapped.
-double residentMB() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    const QString text = QString::fromLatin1(status.readAll());
-    return text.section(QStringLiteral("RssAnon:"), 1)
-               .section(QStringLiteral("kB"), 0, 0)
-               .toDouble() /
-           1024;
-}
 
 /// Half of the columns are text, a quarter each numbers and dates.
 velcro::sql::RowSet cells(int rows) {
@@ -101,9 +87,9 @@ void benchExport(const velcro::test::Desk& desk, int rows) {
     double grown = 0;
     for (int round = 0; round < 3; ++round) {
         theirs.run([&] { writeByHand(rows, byHand); });
-        const double before = residentMB();
+        const double before = bench::residentMB();
         ours.run([&] { velcro::ui::writeWorkbook(grid, QStringLiteral("Bench"), file); });
-        grown = std::max(grown, residentMB() - before);
+        grown = std::max(grown, bench::residentMB() - before);
     }
     bench::print("export of 100,000 x 20 cells", ours, theirs, 1.3);
     std::printf("memory added by an export: %.1f MB (aim 50)\n", grown);
@@ -127,7 +113,7 @@ void benchPictures(const velcro::test::Desk& desk, int pictures) {
     const auto reading = raw.prepare("SELECT * FROM CRORepItmImages WHERE CRONo = '900009'");
     bench::Rounds ours, theirs;
     double after = 0;
-    const double before = residentMB();
+    const double before = bench::residentMB();
     for (int round = 0; round < 5; ++round) {
         theirs.run([&] {
             sqlite3_reset(reading.get());
@@ -141,7 +127,7 @@ void benchPictures(const velcro::test::Desk& desk, int pictures) {
             form.reject();
         });
         malloc_trim(0);
-        after = residentMB();
+        after = bench::residentMB();
     }
     bench::print("list of 50 pictures of 2 MB", ours, theirs, 1.25);
     std::printf("memory before %.0f MB, after closing %.0f MB\n", before, after);

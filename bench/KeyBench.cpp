@@ -1,7 +1,7 @@
 // Every key on the road of booking in an order, from the press to the painted screen, over 45,000
 // debtors and a register as long as told.
 //   KeyBench [roads] [orders]
-#include "Customers.h"
+#include "Shop.h"
 #include "Stopwatch.h"
 
 #include "data/DataModules.h"

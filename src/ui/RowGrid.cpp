@@ -15,18 +15,22 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace velcro::ui {
 
 namespace {
 constexpr int sampleRows = 200; // enough to know how wide a column is
-constexpr int cellPadding = 24;
+constexpr int cellPadding = 22;
 constexpr int narrowest = 56;
 constexpr int widest = 320;
-constexpr int narrowedText = 22; // letters of a long text that are seen where room is short
-constexpr int textMargin = 7;    // brings a cell's text below its heading's
+// Letters of a long text that are seen where room is short: of all of them; to have more columns in
+// sight; and to have the names in sight.
+constexpr int everyLetter = 1000;
+constexpr int longText = 22;
+constexpr int shortenedText = 16;
+constexpr int shortestText = 9;
+constexpr int textMargin = 7; // brings a cell's text below its heading's
 constexpr int tickBox = 24;
 
 // A box as large as a finger's tip, with a mark that is seen without its colour.
@@ -134,7 +138,24 @@ public:
     }
 };
 
-/// Keeps room for the arrow of the sorting where the arrow is.
+/// In two lines, where that is narrower.
+QString inLines(const QString& heading, const QFontMetrics& metrics) {
+    QString best = heading;
+    int width = metrics.horizontalAdvance(heading);
+    for (auto blank = heading.indexOf(u' '); blank > 0; blank = heading.indexOf(u' ', blank + 1)) {
+        const int widthSoFar = std::max(metrics.horizontalAdvance(heading.left(blank)),
+                                        metrics.horizontalAdvance(heading.mid(blank + 1)));
+        if (widthSoFar < width) {
+            width = widthSoFar;
+            best = heading;
+            best[blank] = u'\n';
+        }
+    }
+    return best;
+}
+
+/// Headings that are no wider than they need to be, with room for the arrow of the sorting where
+/// the arrow is.
 class HeadingBar : public QHeaderView
 {
 public:
@@ -142,17 +163,31 @@ public:
 
 protected:
     QSize sectionSizeFromContents(int section) const override {
-        if (section == sortIndicatorSection()) {
-            return QHeaderView::sectionSizeFromContents(section);
-        }
         QStyleOptionHeader heading;
         initStyleOption(&heading);
-        auto bold = font();
-        bold.setBold(true);
-        heading.fontMetrics = QFontMetrics(bold);
+        heading.fontMetrics = bold();
         heading.section = section;
-        heading.text = model()->headerData(section, Qt::Horizontal).toString();
-        return style()->sizeFromContents(QStyle::CT_HeaderSection, &heading, {}, this);
+        heading.text = textOf(section);
+        auto size = style()->sizeFromContents(QStyle::CT_HeaderSection, &heading, {}, this);
+        if (section == sortIndicatorSection()) {
+            size.rwidth() += std::max(minimumHeight(), size.height()) / 2 +
+                             2 * style()->pixelMetric(QStyle::PM_HeaderMargin, &heading, this);
+        }
+        return size;
+    }
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        option->text = textOf(section);
+    }
+
+private:
+    QFontMetrics bold() const {
+        auto letters = font();
+        letters.setBold(true);
+        return QFontMetrics(letters);
+    }
+    QString textOf(int section) const {
+        return inLines(model()->headerData(section, Qt::Horizontal).toString(), bold());
     }
 };
 
@@ -189,6 +224,11 @@ RowGrid::RowGrid(QWidget* parent)
                            setColumnWidth(section, std::max(columnWidth(section), heading));
                        }
                    });
+    connectHandler(header, &QHeaderView::sectionResized, this, [this] {
+        if (!layingOut_) {
+            fits_.clear();
+        }
+    });
     QScroller::grabGesture(viewport(), QScroller::TouchGesture);
     connectHandler(this, &QTableView::doubleClicked, this, &RowGrid::rowChosen);
 }
@@ -198,6 +238,7 @@ void RowGrid::setColumns(std::vector<GridColumn> columns) {
     showOnlyVisibleColumns();
     allowEditing();
     columnsFitted_ = false;
+    fits_.clear();
 }
 
 // A note is opened by typing on it, a second tap, F2 or a double click.
@@ -385,7 +426,6 @@ int RowGrid::sizeHintForColumn(int column) const {
 std::vector<RowGrid::Fit> RowGrid::wantedWidths() const {
     std::vector<Fit> fits;
     const auto* header = horizontalHeader();
-    const int narrowed = narrowedText * QFontMetrics(font()).averageCharWidth() + cellPadding;
     for (int visual = 0; visual < header->count(); ++visual) {
         const int i = header->logicalIndex(visual);
         if (isColumnHidden(i)) {
@@ -394,38 +434,63 @@ std::vector<RowGrid::Fit> RowGrid::wantedWidths() const {
         const int heading = header->sectionSizeHint(i);
         const int wanted = std::clamp(std::max(sizeHintForColumn(i), heading), narrowest, widest);
         const bool text = model_.cellType(i) == CellType::Text;
+        const bool isLong = text && wanted >= narrowed(longText);
         fits.push_back({.index = i,
                         .wanted = wanted,
-                        .narrow = text ? std::min(wanted, std::max(narrowed, heading)) : wanted,
+                        .least = isLong ? std::max(heading, narrowest) : wanted,
+                        .isLong = isLong,
                         .typed = text && model_.columns()[i].editable});
     }
     return fits;
 }
 
-// Where not all columns fit, long texts give way so that more columns are seen, and none of those
-// is cut at the edge.
-void RowGrid::shareRoom(std::vector<Fit>& fits, int room) {
-    const int all = std::accumulate(fits.begin(), fits.end(), 0,
-                                    [](int sum, const Fit& fit) { return sum + fit.wanted; });
-    const bool scarce = all > room;
-    auto end = fits.begin();
+int RowGrid::narrowed(int letters) const {
+    return letters * QFontMetrics(font()).averageCharWidth() + cellPadding;
+}
+
+int RowGrid::narrow(std::vector<Fit>& fits, int letters, int& room) const {
+    int seen = 0;
     for (auto& fit : fits) {
-        fit.width = scarce ? fit.narrow : fit.wanted;
+        fit.width = std::max(fit.least, std::min(fit.wanted, narrowed(letters)));
     }
-    while (end != fits.end() && end->width <= room) {
-        room -= end->width;
-        ++end;
+    while (seen < int(fits.size()) && fits[seen].width <= room) {
+        room -= fits[seen++].width;
     }
-    for (auto fit = fits.begin(); fit != end; ++fit) {
-        const int more = std::min(room, fit->wanted - fit->width);
-        fit->width += more;
-        room -= more;
+    return seen;
+}
+
+// Where not all columns fit, long texts give way so that more columns are seen, and none of those
+// is cut at the edge. The first long text is what people know a row by: it is always seen.
+void RowGrid::shareRoom(std::vector<Fit>& fits, int room) const {
+    const auto names = std::ranges::find(fits, true, &Fit::isLong) - fits.begin();
+    auto left = room;
+    auto seen = narrow(fits, everyLetter, left);
+    for (const int letters : {longText, shortenedText, shortestText}) {
+        const bool isWanted = letters == shortestText ? names >= seen : seen < int(fits.size());
+        auto narrowedRoom = room;
+        auto narrowedFits = fits;
+        const int more = isWanted ? narrow(narrowedFits, letters, narrowedRoom) : 0;
+        if (more > seen) {
+            seen = more;
+            left = narrowedRoom;
+            fits = narrowedFits;
+        }
     }
+    const auto widen = [&left](Fit& fit) {
+        const int more = std::min(left, fit.wanted - fit.width);
+        fit.width += more;
+        left -= more;
+    };
+    if (names < seen) {
+        widen(fits[names]);
+    }
+    const auto end = fits.begin() + seen;
+    std::for_each(fits.begin(), end, widen);
     // What is left goes to what is typed, or else to the widest column, the one with the names.
     if (end != fits.begin()) {
         std::max_element(fits.begin(), end, [](const Fit& a, const Fit& b) {
             return std::pair(a.typed, a.width) < std::pair(b.typed, b.width);
-        })->width += room;
+        })->width += left;
     }
 }
 
@@ -434,12 +499,27 @@ void RowGrid::fitColumns() {
     updateGeometries();
     QEvent layout(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &layout);
-    auto fits = wantedWidths();
-    shareRoom(fits, viewport()->width());
-    for (const auto& fit : fits) {
+    fits_ = wantedWidths();
+    layColumnsOut();
+    columnsFitted_ = model_.rowCount() > 0; // until then the headings alone decide
+}
+
+void RowGrid::layColumnsOut() {
+    if (std::exchange(layingOut_, true)) {
+        return;
+    }
+    std::erase_if(fits_, [this](const Fit& fit) { return isColumnHidden(fit.index); });
+    shareRoom(fits_, viewport()->width());
+    for (const auto& fit : fits_) {
         setColumnWidth(fit.index, fit.width);
     }
-    columnsFitted_ = model_.rowCount() > 0; // until then the headings alone decide
+    layingOut_ = false;
+}
+
+// Widths that nobody has changed follow the room.
+void RowGrid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    layColumnsOut();
 }
 
 } // namespace velcro::ui

@@ -63,6 +63,7 @@ protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     int sizeHintForColumn(int column) const override;
 
 private:
@@ -73,19 +74,27 @@ private:
     struct Fit
     {
         int index;
-        int wanted; // shows all of it
-        int narrow; // shows enough of it
-        bool typed; // holds what is typed
+        int wanted;  // shows all of it
+        int least;   // what it is narrowed to at most
+        bool isLong; // a text that gives way where room is short
+        bool typed;  // holds what is typed
         int width = 0;
     };
     std::vector<Fit> wantedWidths() const;
-    static void shareRoom(std::vector<Fit>& fits, int room);
+    /// Width of a column that shows so many letters of its text.
+    int narrowed(int letters) const;
+    /// Gives long texts so many letters; how many columns fit, and the room that is left.
+    int narrow(std::vector<Fit>& fits, int letters, int& room) const;
+    void shareRoom(std::vector<Fit>& fits, int room) const;
+    void layColumnsOut();
     void goTo(int viewRow);
 
     RowSetModel model_;
     QString spokenField_;
     int tickColumn_ = -1;
     bool columnsFitted_ = false;
+    bool layingOut_ = false;
+    std::vector<Fit> fits_; // of the columns as they stand; empty once somebody changed a width
 };
 
 } // namespace velcro::ui

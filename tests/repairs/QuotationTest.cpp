@@ -437,6 +437,58 @@ TEST_F(QuotationTest, aProductThatGoesBetweenChoiceAndSaveIsStoredAndOneThatGoes
     EXPECT_EQ(faults(), QStringList());
 }
 
+TEST_F(QuotationTest, aListThatIsClosedWhileItsLineIsOpenKeepsHeaderAndLine) {
+    drill();
+    header("1", "Q1", "");
+    line("1", "DRILL", {{"Quantity", "3"}, {"PriceExcl", "10"}});
+    TfrmCRO104 screen;
+    screen.edCRONo->setText("100299");
+    user.workIn(screen, [&] {
+        user.typeInto("edNotes", "later");
+        user.find<QWidget>("grdList").setFocus();
+        user.expectForm(lineTitle, [&] {
+            screen.close();
+            EXPECT_EQ(headerColumn("Notes"), "LATER");
+            user.typeInto("edQuantity", "5");
+            user.press(Qt::Key_F10);
+        });
+        user.press(Qt::Key_Return);
+        EXPECT_FALSE(screen.isVisible());
+    });
+    EXPECT_EQ(lineColumns("[LineTotalExcl]", "[StockCode] = 'DRILL'"), "50");
+    EXPECT_EQ(faults(), QStringList());
+}
+
+// The session's own formats have a point, whatever the seat's language writes.
+TEST_F(QuotationTest, aSeatWithADecimalCommaCalculatesAndSendsPoints) {
+    const auto usual = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    drill();
+    header("1", "Q1", "");
+    show(1, {}, [&] {
+        scan("600100");
+        user.typeInto("edPriceExcl", "1234.56");
+        user.pasteInto("edPriceIncl", "1419,74");
+        EXPECT_EQ(user.sees("edPriceIncl"), "") << "a comma is refused";
+        user.typeInto("edPriceIncl", "1419.74");
+        user.typeInto("edQuantity", "2.5");
+        user.press(Qt::Key_Return);
+        EXPECT_EQ(sees(totals),
+                  QStringList({"3086.40", "3549.35", "462.95000", "3068.90", "99.43"}));
+        user.press(Qt::Key_F10);
+    });
+    EXPECT_EQ(lineColumns("CONCAT([Quantity], '|', [PriceExcl], '|', [LineTotalExcl], '|', "
+                          "[LineVAT])",
+                          "1 = 1"),
+              "2.5|1234.56|3086.4|462.95");
+    showList([&] {
+        user.typeInto("edDepositPaid", "0.5");
+        user.press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(headerColumn("DepositPaid"), "0.5");
+    EXPECT_EQ(faults(), QStringList());
+}
+
 TEST_F(QuotationTest, whatCannotBeReadIsTold) {
     drill();
     line("1", "DRILL");

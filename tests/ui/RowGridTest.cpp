@@ -102,6 +102,45 @@ TEST_F(RowGridTest, ManyRowsFillTheWidthBesideTheirScrollBar) {
     }
 }
 
+TEST_F(RowGridTest, LongTextsGiveWaySoThatTheNamesAreSeenAndShortOnesStayWhole) {
+    const QString name = QString("name ").repeated(8);
+    const auto right = [](const ui::RowGrid& narrow, int column) {
+        return narrow.columnViewportPosition(column) + narrow.columnWidth(column);
+    };
+    const struct
+    { int width, inSight; } rooms[] = {{440, 4}, {670, 5}, {1100, 6}};
+    for (const auto& [width, inSight] : rooms) {
+        SCOPED_TRACE(width);
+        ui::RowGrid narrow;
+        narrow.setColumns({{"Status", "A Long Heading"},
+                           {"Items"},
+                           {"Status"},
+                           {"Name"},
+                           {"Name", "Again"},
+                           {"Name", "Once More"}});
+        narrow.setRows(orders({{name.toUtf8().constData(), "0821234567", 123456}}));
+        narrow.resize(width, 300);
+        narrow.show();
+        const int room = narrow.viewport()->width();
+        EXPECT_LE(right(narrow, inSight - 1), room);
+        EXPECT_GE(right(narrow, inSight - 1), room - 1) << "and no room is left over";
+        for (const int whole : {0, 1, 2}) {
+            EXPECT_GE(narrow.columnWidth(whole),
+                      narrow.fontMetrics().horizontalAdvance(shown(narrow, whole).value(0)));
+        }
+    }
+    ui::RowGrid changed;
+    changed.setColumns({{"Name"}, {"Items"}});
+    changed.setRows(orders({{"Adams", "0", 1}}));
+    changed.resize(400, 300);
+    changed.show();
+    changed.resize(500, 300);
+    EXPECT_EQ(right(changed, 1), changed.viewport()->width()) << "widths follow the room";
+    changed.horizontalHeader()->resizeSection(0, 111);
+    changed.resize(600, 300);
+    EXPECT_EQ(changed.columnWidth(0), 111) << "but not one that the user gave";
+}
+
 TEST_F(RowGridTest, HeadingClickSortsTextWithoutCaseAndNumbersAsNumbers) {
     clickHeading(0);
     EXPECT_EQ(shown(grid, 0), QStringList({"Adams", "adams", "müller", "Zed"}));
