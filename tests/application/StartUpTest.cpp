@@ -67,7 +67,7 @@ TEST_F(StartUpTest, stepsFollowEachOtherUntilOneFails) {
     EXPECT_EQ(road, (QStringList{"grids", "version", "form"}));
     EXPECT_EQ(gSuite + gModCode, "VELMARACRO");
     EXPECT_EQ(server.settings.database, "COMMON");
-    EXPECT_TRUE(gTempPath.endsWith("/Temp/"));
+    EXPECT_TRUE(QDir::fromNativeSeparators(gTempPath).endsWith("/Temp/"));
     EXPECT_TRUE(QDir(gTempPath).exists()) << "the folder that is made is the folder that is used";
     silentEnds = "2";
     EXPECT_TRUE(startUp(steps, {"U", "P", "7", "01", "100", ""}));

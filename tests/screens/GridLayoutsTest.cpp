@@ -134,7 +134,7 @@ TEST_F(GridLayoutsTest, costsAreForThoseWhoMaySeeThem) {
 TEST_F(GridLayoutsTest, theRegisterGoesIntoAWorkbookThatTheDesktopOpens) {
     QString opened;
     velcro::seat::setDesktopOpener([&](const QString& file) {
-        opened = file;
+        opened = QDir::fromNativeSeparators(file);
         return true;
     });
     inRegister([&](TfrmCRO100&) { user.find<QAction>("acGridExcel").trigger(); });

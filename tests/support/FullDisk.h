@@ -32,6 +32,9 @@ public:
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
+    /// How a server's words for it begin.
+    static constexpr const char* told = "The transaction log for database ";
+
 private:
     using Write = BOOL(WINAPI*)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED);
 
@@ -73,6 +76,9 @@ public:
     }
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
+
+    /// How a server's words for it begin: a limit of the process is no full disk to the system.
+    static constexpr const char* told = "The operating system returned an error";
 
 private:
     void (*handler_)(int);

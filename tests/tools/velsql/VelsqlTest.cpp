@@ -29,7 +29,7 @@ protected:
     }
     std::string read(const std::string& name) {
         std::ostringstream text;
-        text << std::ifstream(folder.file(name), std::ios::binary).rdbuf();
+        text << std::ifstream(folder.file(name)).rdbuf(); // lines end as the system's do
         return text.str();
     }
 
