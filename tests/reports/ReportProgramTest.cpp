@@ -2,11 +2,12 @@
 #include "data/Session.h"
 #include "support/Desk.h"
 
+#include <QDir>
+#include <QProcess>
+
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
+#include <filesystem>
 
 using velcro::test::Desk;
 
@@ -20,7 +21,8 @@ protected:
         // The seat's configuration stands below a folder of this name.
         const QString shared = QDir(desk.configurationFile().section('/', 0, -5)).canonicalPath();
         QDir().mkpath(settings());
-        EXPECT_TRUE(QFile::link(shared, settings() + "/velmara"));
+        std::filesystem::copy(shared.toStdString(), (settings() + "/velmara").toStdString(),
+                              std::filesystem::copy_options::recursive);
     }
 
     QString settings() const { return desk.workingFolder() + "config"; }
@@ -35,7 +37,7 @@ protected:
         program.setProcessChannelMode(QProcess::MergedChannels);
         program.start(REPORT_PROGRAM, arguments);
         EXPECT_TRUE(program.waitForFinished(60000));
-        said = program.readAll().toStdString();
+        said = program.readAll().replace("\r\n", "\n").toStdString(); // as the system ends lines
         return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
     }
 
