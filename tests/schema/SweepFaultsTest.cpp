@@ -87,6 +87,14 @@ const ChildWork readOnlySweep("readOnlySweep", [](const ChildWork::Arguments& of
                : 1;
 });
 
+/// Into a folder that is there; not every library's own copy does that.
+void copyFiles(const fs::path& from, const fs::path& to) {
+    for (const auto& entry : fs::directory_iterator(from)) {
+        fs::copy_file(entry.path(), to / entry.path().filename(),
+                      fs::copy_options::overwrite_existing);
+    }
+}
+
 /// A till after one sweep that nothing disturbs.
 class SweptTill
 {
@@ -100,13 +108,12 @@ public:
         }
         schema = schemaOf(database.connection());
         database.connection().disconnect();
-        fs::copy(database.folder().path(), folder_.path());
+        copyFiles(database.folder().path(), folder_.path());
     }
     /// Takes the place of a database that nobody has used yet.
     void copyTo(EmbeddedDatabase& database) const {
         database.connection().disconnect();
-        fs::copy(folder_.path(), database.folder().path(),
-                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        copyFiles(folder_.path(), database.folder().path());
         database.connection().connect(
             {.server = "embedded:" + folderOf(database), .database = "Shop"});
     }
