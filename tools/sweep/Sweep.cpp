@@ -93,9 +93,10 @@ void print(const CommandLine& line, QTextStream& out) {
     till.sweep();
 }
 
+// In the folder of the program beside it, whose sweep may have been stopped in the middle.
 void run(const CommandLine& line, QTextStream& out) {
-    Till till(line, seat::nativePath(seat::workingFolder(QCoreApplication::applicationFilePath()) +
-                                     "SQL\\"));
+    const QString program = QCoreApplication::applicationDirPath() + "/velCRO";
+    Till till(line, seat::nativePath(seat::workingFolder(program) + "SQL\\"));
     int sent = 0, refused = 0;
     schema::gSchemaWatch.afterSend = [&](const QString& statement, bool done) {
         ++sent;
