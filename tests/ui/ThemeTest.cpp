@@ -130,6 +130,7 @@ TEST(ThemeTest, aDesktopOfHighContrastIsFollowed) {
         << "the desktop's ground";
 }
 
+#ifndef Q_OS_WIN // where the setting is the system's and not the session's
 TEST(ThemeTest, aDesktopThatOnlySaysSoGetsWhiteOnBlack) {
     qputenv("GTK_THEME", "HighContrastInverse");
     {
@@ -140,6 +141,7 @@ TEST(ThemeTest, aDesktopThatOnlySaysSoGetsWhiteOnBlack) {
     }
     EXPECT_NE(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
 }
+#endif
 
 TEST(ThemeTest, rowsOfADropDownListAreAFingerHigh) {
     QComboBox combo;

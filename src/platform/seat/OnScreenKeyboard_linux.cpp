@@ -45,7 +45,12 @@ QStringList keyboardArguments(const QString& path) {
     if (name == QLatin1String("xvkbd")) {
         const auto* screen = QGuiApplication::primaryScreen();
         const QSize pixels = screen->size() * screen->devicePixelRatio();
-        return {QStringLiteral("-no-functionkey"), QStringLiteral("-geometry"),
+        // Its guesses at words would lie over its digits.
+        return {QStringLiteral("-no-functionkey"),
+                QStringLiteral("-always-on-top"),
+                QStringLiteral("-xrm"),
+                QStringLiteral("xvkbd*integrateCompletionPanel: false"),
+                QStringLiteral("-geometry"),
                 QStringLiteral("%1x%2+0-0").arg(pixels.width()).arg(pixels.height() * 2 / 5)};
     }
     if (name == QLatin1String("matchbox-keyboard")) {
