@@ -87,11 +87,11 @@ const ChildWork readOnlySweep("readOnlySweep", [](const ChildWork::Arguments& of
                : 1;
 });
 
-/// Into a folder that is there; not every library's own copy does that.
+/// Into a folder that is there, over files that are; not every library's own copy does that.
 void copyFiles(const fs::path& from, const fs::path& to) {
     for (const auto& entry : fs::directory_iterator(from)) {
-        fs::copy_file(entry.path(), to / entry.path().filename(),
-                      fs::copy_options::overwrite_existing);
+        fs::remove(to / entry.path().filename());
+        fs::copy_file(entry.path(), to / entry.path().filename());
     }
 }
 
