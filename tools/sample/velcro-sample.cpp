@@ -3,6 +3,7 @@
 #include "Seat.h"
 
 #include "platform/about/About.h"
+#include "platform/seat/CommandLine.h"
 #include "platform/seat/Folders.h"
 #include "platform/seat/Programs.h"
 
@@ -122,6 +123,7 @@ int main(int argc, char** argv) {
             return 0;
         }
         std::cout << "velcro-sample: sign in as COUNTER1 with the password COUNTER" << std::endl;
+        velcro::seat::leaveOwnConsole();
         return openProgram(request.seat);
     } catch (const std::exception& error) {
         std::cerr << "velcro-sample: " << error.what() << '\n';

@@ -14,4 +14,6 @@ void hideArgument(int argc, char** argv, const QString& text) {
     }
 }
 
+void leaveOwnConsole() {}
+
 } // namespace velcro::seat

@@ -3,6 +3,7 @@
 #include "platform/seat/WindowsApi.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <cwchar>
 #include <string>
@@ -26,6 +27,13 @@ void hideArgument(int argc, char** argv, const QString& text) {
         if (bytes == argv[i]) {
             std::memset(argv[i], '*', std::strlen(argv[i]));
         }
+    }
+}
+
+void leaveOwnConsole() {
+    std::array<DWORD, 2> others{};
+    if (GetConsoleProcessList(others.data(), DWORD(others.size())) == 1) {
+        FreeConsole();
     }
 }
 
