@@ -91,7 +91,7 @@ void FingerLogIn::makeFinger() {
     row->addSpacing(24);
     row->addLayout(words);
     row->addStretch();
-    body().insertWidget(0, new velcro::ui::ScrollPage(page, this), 1);
+    body().insertWidget(0, new velcro::ui::ScrollPage(page, this));
 }
 
 void FingerLogIn::FormShow() {
