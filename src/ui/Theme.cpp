@@ -84,12 +84,14 @@ QPalette madeReadable(QPalette palette) {
     return palette;
 }
 
-/// The desktop's palette where it asks for high contrast.
+/// The desktop's palette where it asks for high contrast. Many an ordinary desktop is black on white,
+/// so that alone asks for nothing.
 std::optional<QPalette> paletteAsked(const QPalette& desktop) {
-    if (isStark(desktop)) {
+    const bool asked = seat::wantsHighContrast();
+    if (isStark(desktop) && (asked || desktop.color(QPalette::Window) == QColor(Qt::black))) {
         return madeReadable(desktop);
     }
-    return seat::wantsHighContrast() ? std::optional(madeReadable(whiteOnBlack())) : std::nullopt;
+    return asked ? std::optional(madeReadable(whiteOnBlack())) : std::nullopt;
 }
 
 QString sheet(const char* name) {

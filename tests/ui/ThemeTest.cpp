@@ -143,6 +143,12 @@ TEST(ThemeTest, aDesktopThatOnlySaysSoGetsWhiteOnBlack) {
 }
 #endif
 
+TEST(ThemeTest, anOrdinaryDesktopOfBlackOnWhiteKeepsTheHousesLook) {
+    const Desktop desktop(QPalette(Qt::black, Qt::white, Qt::white, Qt::darkGray, Qt::gray,
+                                   Qt::black, Qt::white, Qt::white, Qt::white));
+    EXPECT_NE(QApplication::palette().color(QPalette::Window), QColor(Qt::white));
+}
+
 TEST(ThemeTest, rowsOfADropDownListAreAFingerHigh) {
     QComboBox combo;
     combo.setItemDelegate(new QStyledItemDelegate(&combo));
