@@ -1,6 +1,6 @@
 // Records the drawings of src/ui for a system without Qt SVG, and paints the program's icon.
 //   record-pictures <src/ui> <folder>
-// Leaves icons/*.picture with recorded.qrc, theme.qrc with its arrow as a PNG, and velcro-<size>.png.
+// Leaves icons/*.picture with recorded.qrc, theme.qrc with its arrows as PNGs, and velcro-<size>.png.
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -71,13 +71,18 @@ void recordAll(const QDir& ui, const QDir& out) {
     }
     writeText(out.filePath(u"recorded.qrc"_s), list(u"/velcro"_s, files));
 
-    // The style sheet asks for the drawing by its name; what lies under it is told by its content.
+    // The style sheets ask for drawings by their names; what lies under one is told by its content.
     constexpr int sharpAtFourTimes = 96;
-    paint(ui.filePath(u"pictures/down.svg"_s), sharpAtFourTimes, out.filePath(u"down.png"_s));
-    writeText(out.filePath(u"theme.qrc"_s),
-              list(u"/theme"_s,
-                   {"<file alias=\"theme.qss\">" + ui.absoluteFilePath(u"theme.qss"_s) + "</file>",
-                    u"<file alias=\"down.svg\">down.png</file>"_s}));
+    QStringList theme;
+    for (const QFileInfo& sheet : ui.entryInfoList({u"*.qss"_s})) {
+        theme << "<file alias=\"" + sheet.fileName() + "\">" + sheet.absoluteFilePath() + "</file>";
+    }
+    for (const QFileInfo& svg : QDir(ui.filePath(u"pictures"_s)).entryInfoList({u"down*.svg"_s})) {
+        const QString name = svg.completeBaseName() + ".png";
+        paint(svg.filePath(), sharpAtFourTimes, out.filePath(name));
+        theme << "<file alias=\"" + svg.fileName() + "\">" + name + "</file>";
+    }
+    writeText(out.filePath(u"theme.qrc"_s), list(u"/theme"_s, theme));
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
         paint(ui.filePath(u"icons/product-logo.svg"_s), size,
               out.filePath(u"velcro-%1.png"_s.arg(size)));
